@@ -1,0 +1,58 @@
+#pragma once
+
+// What the small calculator windows share in building their controls and in telling
+// a click on their background from a click on a control.
+
+#include "shell/form.h"
+
+#include <QFont>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QWidget>
+
+namespace zafro::calculators {
+
+// Names a control after its original and places it in twips.
+template <typename T> T *place(T *w, const char *name, int left, int top, int width, int height)
+{
+    w->setObjectName(QLatin1String(name));
+    w->setGeometry(twipsRect(left, top, width, height));
+    return w;
+}
+
+inline void setBold(QWidget *w, int pointSize)
+{
+    QFont font = w->font();
+    font.setBold(true);
+    font.setPointSize(pointSize);
+    w->setFont(font);
+}
+
+// Boxes take the window's background from the skin and would lose their edges on a
+// dark one: their outline follows the text colour instead. Runs after the skin.
+inline void outlineBoxes(QWidget *window)
+{
+    for (QLineEdit *box : window->findChildren<QLineEdit *>()) {
+        QPalette palette = box->palette();
+        palette.setColor(QPalette::Window, palette.color(QPalette::Text));
+        box->setPalette(palette);
+    }
+}
+
+// A left click that ends on the window's own surface. A press on a label passes up
+// to the window too, but then the label lies under the point.
+inline bool isBackgroundClick(QWidget *window, const QMouseEvent *event)
+{
+    return event->button() == Qt::LeftButton &&
+           window->rect().contains(event->position().toPoint()) &&
+           window->childAt(event->position().toPoint()) == nullptr;
+}
+
+// A left-button release in a text box: its click.
+inline bool isBoxClick(const QEvent *event)
+{
+    return event->type() == QEvent::MouseButtonRelease &&
+           static_cast<const QMouseEvent *>(event)->button() == Qt::LeftButton;
+}
+
+} // namespace zafro::calculators

@@ -1,0 +1,3 @@
+# romanos: logic in zafro_core, window in zafro_ui
+target_sources(zafro_core PRIVATE ${CMAKE_CURRENT_LIST_DIR}/romanos.cpp)
+target_sources(zafro_ui PRIVATE ${CMAKE_CURRENT_LIST_DIR}/romanos_window.cpp)

@@ -1,0 +1,11 @@
+#include "platform/services.h"
+
+namespace zafro {
+
+Services &services()
+{
+    static Services current{};
+    return current;
+}
+
+} // namespace zafro

@@ -1,0 +1,34 @@
+#include "shell/register_forms.h"
+
+#include "shell/au_window.h"
+#include "shell/colores_window.h"
+#include "shell/colorestuyos_window.h"
+#include "shell/forms.h"
+#include "shell/idiomaa_window.h"
+#include "shell/index_window.h"
+#include "shell/inicio_window.h"
+#include "shell/intro_window.h"
+#include "shell/nuevos_window.h"
+#include "shell/placeholder_window.h"
+
+namespace zafro {
+
+void registerForms()
+{
+    Forms &f = forms();
+    f.registerForm(QStringLiteral("inicio"), [] { return new InicioWindow; });
+    f.registerForm(QStringLiteral("idiomaa"), [] { return new IdiomaaWindow; });
+    f.registerForm(QStringLiteral("intro"), [] { return new IntroWindow; });
+    f.registerForm(QStringLiteral("nuevos"), [] { return new NuevosWindow; });
+    f.registerForm(QStringLiteral("index"), [] { return new IndexWindow; });
+    f.registerForm(QStringLiteral("au"), [] { return new AuWindow; });
+    f.registerForm(QStringLiteral("colores"), [] { return new ColoresWindow; });
+    f.registerForm(QStringLiteral("colorestuyos"), [] { return new ColorestuyosWindow; });
+    // Windows of the shell whose own behaviour comes later stand in with their name.
+    for (const char *name : {"preferencias", "acercade", "limpia"}) {
+        const QString title = QLatin1String(name);
+        f.registerForm(title, [title] { return new PlaceholderWindow(title); });
+    }
+}
+
+} // namespace zafro

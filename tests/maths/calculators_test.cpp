@@ -1,0 +1,276 @@
+#include "maths/bisiesto.h"
+#include "maths/calculadora.h"
+#include "maths/radian.h"
+#include "maths/temperatura.h"
+#include "maths/trigo.h"
+#include "runtime/numtext.h"
+#include "runtime/region.h"
+#include "runtime/runtime_error.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace zafro {
+namespace {
+
+// The number of the run-time error that the call raises, or 0 if it returns.
+int errorOf(const std::function<void()> &call)
+{
+    try {
+        call();
+    } catch (const RuntimeError &error) {
+        return error.number();
+    }
+    return 0;
+}
+
+// --- calculadora ---------------------------------------------------------------------
+
+TEST(CalculadoraOperar, GivesTheFiveOperationsAndCatchesOnlyTheTwoCasesItTells)
+{
+    using Estado = ResultadoOperacion::Estado;
+    const struct {
+        Operacion op;
+        double a, b;
+        Estado estado;
+        double valor;
+    } rows[] = {{Operacion::Suma, 2, 3, Estado::Hecho, 5},
+                {Operacion::Resta, 2, 3, Estado::Hecho, -1},
+                {Operacion::Producto, 2.5, 4, Estado::Hecho, 10},
+                {Operacion::Division, 7, 2, Estado::Hecho, 3.5},
+                {Operacion::Potencia, 2, 10, Estado::Hecho, 1024},
+                {Operacion::Potencia, 0, 5, Estado::Hecho, 0},
+                {Operacion::Potencia, 5, 0, Estado::Hecho, 1},
+                {Operacion::Potencia, -2, 3, Estado::Hecho, -8},
+                {Operacion::Division, 5, 0, Estado::DivisionPorCero, 0},
+                {Operacion::Division, 0, 0, Estado::DivisionPorCero, 0},
+                {Operacion::Potencia, 0, 0, Estado::Indeterminacion, 0}};
+    for (const auto &row : rows) {
+        const ResultadoOperacion r = operar(row.op, row.a, row.b);
+        const std::string what =
+            std::to_string(row.a) + signoDe(row.op).toStdString() + std::to_string(row.b);
+        EXPECT_EQ(r.estado, row.estado) << what;
+        if (row.estado == Estado::Hecho) {
+            EXPECT_EQ(r.valor, row.valor) << what;
+        }
+    }
+    EXPECT_EQ(signoDe(Operacion::Producto), QStringLiteral("x"));
+
+    EXPECT_EQ(errorOf([] { operar(Operacion::Potencia, -8, 1.0 / 3); }), 5);
+    EXPECT_EQ(errorOf([] { operar(Operacion::Potencia, 0, -1); }), 5) << "only 0^0 is caught";
+    EXPECT_EQ(errorOf([] { operar(Operacion::Potencia, 10, 400); }), 6);
+    EXPECT_EQ(errorOf([] { operar(Operacion::Suma, 1e308, 1e308); }), 6);
+    EXPECT_EQ(errorOf([] { operar(Operacion::Resta, -1e308, 1e308); }), 6);
+    EXPECT_EQ(errorOf([] { operar(Operacion::Producto, 1e308, 10); }), 6);
+    EXPECT_EQ(errorOf([] { operar(Operacion::Division, 1e308, 1e-10); }), 6);
+}
+
+TEST(CalculadoraBases, HexadecimalRoundsToThirtyTwoBitsAndComplementsNegatives)
+{
+    const struct {
+        double valor;
+        const char *hexa;
+    } rows[] = {{0, "0"},
+                {255, "FF"},
+                {1024, "400"},
+                {2.5, "2"},
+                {3.5, "4"},
+                {-0.4, "0"},
+                {-1, "FFFFFFFF"},
+                {2147483647, "7FFFFFFF"},
+                {-2147483648.0, "80000000"}};
+    for (const auto &row : rows)
+        EXPECT_EQ(textoHexadecimal(row.valor), QLatin1String(row.hexa)) << row.valor;
+    EXPECT_EQ(errorOf([] { textoHexadecimal(2147483648.0); }), 6);
+    EXPECT_EQ(errorOf([] { textoHexadecimal(-2147483649.0); }), 6);
+}
+
+TEST(CalculadoraBases, ConvertFromTheBaseTheWindowBelievesTheResultIsIn)
+{
+    const QString hexa = kBaseHexadecimal, dec = kBaseDecimal, bin = kBaseBinaria;
+    using Conversion = QString (*)(const QString &, const QString &);
+    const Conversion aHex = &convertirAHexadecimal, aDec = &convertirADecimal,
+                     aBin = &convertirABinario;
+    const struct {
+        Conversion conversion;
+        const char *resultado;
+        const QString &base;
+        const char *esperado;
+    } rows[] = {// 2 ^ 10 through the three bases and back
+                {aHex, "1024", dec, "400"},
+                {aBin, "400", hexa, "10000000000"},
+                {aDec, "10000000000", bin, "1024"},
+                {aDec, "400", hexa, "1024"},
+                {aBin, "1024", dec, "10000000000"},
+                {aHex, "10000000000", bin, "400"},
+                {aDec, "ff", hexa, "255"},
+                {aDec, "FFFFFFFF", hexa, "4294967295"},
+                // a decimal result still believed hexadecimal or binary
+                {aHex, "12", hexa, "4"},
+                {aHex, "1024", bin, "10"},
+                {aBin, "12", bin, "10010"},
+                {aBin, "1024", hexa, "1000000100100"},
+                {aDec, "1024", bin, "16"},
+                // the lenient reading makes a word 0; negatives keep their odd forms
+                {aHex, "RESULTADO", dec, "0"},
+                {aHex, "-1", dec, "FFFFFFFF"},
+                {aBin, "-5", dec, "-10-1"},
+                {aBin, "0", dec, "0"}};
+    for (const auto &row : rows)
+        EXPECT_EQ(row.conversion(QLatin1String(row.resultado), row.base),
+                  QLatin1String(row.esperado))
+            << row.resultado << " in base " << row.base.toStdString();
+
+    EXPECT_EQ(errorOf([&] { convertirABinario(QStringLiteral("RESULTADO"), dec); }), 13);
+    EXPECT_EQ(errorOf([&] { convertirADecimal(QStringLiteral("FF"), bin); }), 13);
+    EXPECT_EQ(errorOf([&] { convertirAHexadecimal(QStringLiteral("1E+20"), dec); }), 6);
+    EXPECT_EQ(errorOf([&] { convertirABinario(QStringLiteral("3000000000"), dec); }), 6);
+    EXPECT_EQ(errorOf([&] { convertirABinario(QStringLiteral("FFFFFFFF"), hexa); }), 6);
+}
+
+TEST(CalculadoraBases, TheRegionDecidesHowAFractionalResultIsRead)
+{
+    const QString dec = kBaseDecimal;
+    {
+        ScopedDecimalMark point(u'.');
+        EXPECT_EQ(convertirAHexadecimal(QStringLiteral("3.5"), dec), QStringLiteral("4"));
+        EXPECT_EQ(convertirABinario(QStringLiteral("3.5"), dec), QStringLiteral("100"));
+        EXPECT_EQ(convertirABinario(QStringLiteral("2.5"), dec), QStringLiteral("10"));
+    }
+    // The box shows "3,5" here: the lenient reading stops at the comma, while the
+    // strict one takes it for the decimal mark and a point for grouping.
+    ScopedDecimalMark comma(u',');
+    EXPECT_EQ(convertirAHexadecimal(QStringLiteral("3,5"), dec), QStringLiteral("3"));
+    EXPECT_EQ(convertirABinario(QStringLiteral("3,5"), dec), QStringLiteral("100"));
+    EXPECT_EQ(convertirABinario(QStringLiteral("3.5"), dec), QStringLiteral("100011"));
+}
+
+// --- trigo, radian -------------------------------------------------------------------
+
+TEST(Trigo, RatiosAreRoundedToFourDecimalsWithTheToolsTwoPi)
+{
+    ScopedDecimalMark point(u'.');
+    const struct {
+        double grados;
+        const char *seno, *coseno, *tangente;
+    } rows[] = {{0, "0", "1", "0"},
+                {90, "1", "0", "Error"},
+                {180, "0", "-1", "0"},
+                {270, "-1", "0", "Error"},
+                {360, "0", "1", "0"}, // a rounded -0 is written as 0
+                {30, "0.5", "0.866", "0.5774"},
+                {135, "0.7071", "-0.7071", "-1"},
+                {-45, "-0.7071", "0.7071", "-1"},
+                // poles missing from the list just give a large tangent
+                {-90, "-1", "0", "-3060023.307"},
+                {1530, "1", "0", "180001.371"}};
+    for (const auto &row : rows) {
+        const RazonesTrigonometricas r = razonesTrigonometricas(row.grados);
+        EXPECT_EQ(r.seno, QLatin1String(row.seno)) << row.grados;
+        EXPECT_EQ(r.coseno, QLatin1String(row.coseno)) << row.grados;
+        EXPECT_EQ(r.tangente, QLatin1String(row.tangente)) << row.grados;
+    }
+    EXPECT_DOUBLE_EQ(gradosARadianesTrigo(360), 6.283184);
+    for (double grados : {90.0, 270.0, 450.0, 630.0, 810.0, 990.0, 1170.0, 1350.0})
+        EXPECT_TRUE(tangenteIndefinida(grados)) << grados;
+    for (double grados : {-90.0, -270.0, 1530.0, 90.5, 89.99999, 180.0})
+        EXPECT_FALSE(tangenteIndefinida(grados)) << grados;
+}
+
+TEST(Radian, ConvertsWithTheToolsPiAndRoundsToFourDecimals)
+{
+    const struct {
+        double valor, radianes, grados;
+    } rows[] = {{180, 3.1416, 10313.2403},
+                {3.1416, 0.0548, 180.0004},
+                {1, 0.0175, 57.2958},
+                {-45, -0.7854, -2578.3101},
+                {0, 0, 0}};
+    for (const auto &row : rows) {
+        EXPECT_DOUBLE_EQ(aRadianes(row.valor), row.radianes) << row.valor;
+        EXPECT_DOUBLE_EQ(aGrados(row.valor), row.grados) << row.valor;
+    }
+    EXPECT_EQ(errorOf([] { aRadianes(1e308); }), 6);
+    EXPECT_EQ(errorOf([] { aGrados(1e307); }), 6);
+    EXPECT_EQ(errorOf([] { aRadianes(5e307); }), 0);
+}
+
+// --- temperatura ---------------------------------------------------------------------
+
+TEST(Temperatura, EachEntryUsesItsOwnFactorsAndIsNotRounded)
+{
+    EXPECT_EQ(
+        nombresConversionesTemperatura(),
+        QStringList({QStringLiteral("Celsius - Farenhait"), QStringLiteral("Celsius - Kelvin"),
+                     QStringLiteral("Farenhait - Celsius"), QStringLiteral("Farenhait - Kelvin"),
+                     QStringLiteral("Kelvin - Celsius"), QStringLiteral("Kelvin - Farenhait")}));
+    ScopedDecimalMark point(u'.');
+    const struct {
+        int entrada;
+        double x;
+        const char *resultado, *desde, *hasta;
+    } rows[] = {{0, 100, "212.0118", "C", "F"},
+                {0, -40, "-40.0022", "C", "F"},
+                {1, 100, "373.15", "C", "K"},
+                {2, 212, "99.9882", "F", "C"},
+                {2, 32, "-0.00179999999999936", "F", "C"},
+                {3, 100, "310.8966", "F", "K"},
+                {4, 100, "-173.15", "K", "C"},
+                {5, 100, "-279.685515", "K", "F"}};
+    for (const auto &row : rows) {
+        EXPECT_EQ(CStr(convertirTemperatura(row.entrada, row.x)), QLatin1String(row.resultado))
+            << row.entrada << " with " << row.x;
+        EXPECT_EQ(QString::fromUtf16(kConversionesTemperatura[row.entrada].desde),
+                  QLatin1String(row.desde));
+        EXPECT_EQ(QString::fromUtf16(kConversionesTemperatura[row.entrada].hasta),
+                  QLatin1String(row.hasta));
+    }
+    for (int entrada : {0, 5})
+        EXPECT_EQ(errorOf([entrada] { convertirTemperatura(entrada, 1e308); }), 6) << entrada;
+    for (int entrada : {1, 2, 3, 4})
+        EXPECT_EQ(errorOf([entrada] { convertirTemperatura(entrada, 1e308); }), 0) << entrada;
+}
+
+// --- bisiesto ------------------------------------------------------------------------
+
+TEST(Bisiesto, TheGregorianRuleForEveryYearButZero)
+{
+    const struct {
+        qint32 ano;
+        Bisiesto esperado;
+    } rows[] = {{1900, Bisiesto::No},
+                {2000, Bisiesto::Si},
+                {2004, Bisiesto::Si},
+                {2003, Bisiesto::No},
+                {-4, Bisiesto::Si},
+                {-100, Bisiesto::No},
+                {-400, Bisiesto::Si},
+                {-1, Bisiesto::No},
+                {0, Bisiesto::Error},
+                {2147483647, Bisiesto::No},
+                {-2147483647 - 1, Bisiesto::Si}};
+    for (const auto &row : rows)
+        EXPECT_EQ(esBisiesto(row.ano), row.esperado) << row.ano;
+}
+
+TEST(Bisiesto, TheBoxIsReadLenientlyAndHeldInThirtyTwoBits)
+{
+    const struct {
+        const char *texto;
+        qint32 ano;
+    } rows[] = {
+        {"2000", 2000}, {"abc", 0},         {"", 0},         {"2000.5", 2000}, {"2001.5", 2002},
+        {"1e3", 1000},  {" 2 0 0 4", 2004}, {"&H7D0", 2000}, {"0.4", 0},       {"2000,5", 2000}};
+    for (const auto &row : rows)
+        EXPECT_EQ(leerAno(QLatin1String(row.texto)), row.ano) << row.texto;
+    EXPECT_EQ(errorOf([] { leerAno(QStringLiteral("2147483648")); }), 6);
+    EXPECT_EQ(errorOf([] { leerAno(QStringLiteral("-3e9")); }), 6);
+
+    EXPECT_TRUE(avisarAnoCero(QStringLiteral("0")));
+    for (const char *texto : {"abc", "", "0.0", " 0", "00", "-0"})
+        EXPECT_FALSE(avisarAnoCero(QLatin1String(texto))) << texto;
+}
+
+} // namespace
+} // namespace zafro

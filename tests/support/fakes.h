@@ -1,0 +1,96 @@
+#pragma once
+
+// Fakes of the platform services: they record what the code asked for and
+// answer from queues that the test fills.
+
+#include "platform/services.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QQueue>
+#include <QSet>
+#include <QStringList>
+
+namespace zafro::test {
+
+struct MsgBoxCall {
+    QString text;
+    int style;
+    QString title;
+};
+
+class FakeDialogs : public Dialogs {
+public:
+    int msgBox(const QString &text, int style, const QString &title) override;
+    QString inputBox(const QString &prompt, const QString &title,
+                     const QString &defaultText) override;
+
+    QList<MsgBoxCall> messages;
+    QQueue<int> answers; // msgBox answers; OK (or the first button) when empty
+    QStringList prompts;
+    QQueue<QString> inputs; // inputBox answers; the default text when empty
+    std::function<void(const MsgBoxCall &)> onMessage; // runs inside the box, if set
+};
+
+class FakeDesktop : public Desktop {
+public:
+    void openUrl(const QString &url) override { openedUrls << url; }
+    QString clipboardText() const override { return clipboard; }
+    void setClipboardText(const QString &text) override { clipboard = text; }
+    bool fileExists(const QString &path) const override { return files.contains(path); }
+    void deleteFile(const QString &path) override { files.remove(path); }
+    QString programFolder() const override { return folder; }
+    QString programFileName() const override { return QStringLiteral("zafrosuite"); }
+    QSize screenSizeTwips() const override { return screen; }
+    QPoint cursorPos() const override { return cursor; }
+    void cdDoor(const QString &command) override { cdCommands << command; }
+    void endProgram(int status) override { endStatuses << status; }
+
+    bool ended() const { return !endStatuses.isEmpty(); }
+
+    QStringList openedUrls;
+    QString clipboard;
+    QSet<QString> files;
+    QString folder;
+    QSize screen{19200, 14400};
+    QPoint cursor;
+    QStringList cdCommands;
+    QList<int> endStatuses;
+};
+
+class FakeClock : public Clock {
+public:
+    QDateTime now() const override { return current; }
+    qint32 tickCount() const override { return ticks; }
+    float timer() const override;
+
+    QDateTime current{QDate(2026, 11, 23), QTime(12, 0)};
+    qint32 ticks = 0;
+};
+
+class FakeSound : public Sound {
+public:
+    void beep(int frequency, int milliseconds) override
+    {
+        beeps << qMakePair(frequency, milliseconds);
+    }
+    void playSound(const QString &buffer, int flags) override
+    {
+        sounds << qMakePair(buffer, flags);
+    }
+
+    QList<QPair<int, int>> beeps;
+    QList<QPair<QString, int>> sounds;
+};
+
+// The fakes of the current test, installed into services() by the test main
+// before each test and reset after it.
+struct Fakes {
+    FakeDialogs dialogs;
+    FakeDesktop desktop;
+    FakeClock clock;
+    FakeSound sound;
+};
+Fakes &fakes();
+
+} // namespace zafro::test
