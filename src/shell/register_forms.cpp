@@ -1,5 +1,6 @@
 #include "shell/register_forms.h"
 
+#include "maths/maths_forms.h"
 #include "shell/au_window.h"
 #include "shell/colores_window.h"
 #include "shell/colorestuyos_window.h"
@@ -24,6 +25,7 @@ void registerForms()
     f.registerForm(QStringLiteral("au"), [] { return new AuWindow; });
     f.registerForm(QStringLiteral("colores"), [] { return new ColoresWindow; });
     f.registerForm(QStringLiteral("colorestuyos"), [] { return new ColorestuyosWindow; });
+    registerMathsForms();
     // Windows of the shell whose own behaviour comes later stand in with their name.
     for (const char *name : {"preferencias", "acercade", "limpia"}) {
         const QString title = QLatin1String(name);

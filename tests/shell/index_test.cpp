@@ -325,3 +325,34 @@ TEST_F(Launcher, TheSiteTheChangeListAndTheShellWindows)
 
 } // namespace
 } // namespace zafro
+
+namespace zafro {
+namespace {
+
+TEST_F(Launcher, EveryBuiltToolOpensFromItsLabelInTheCurrentLanguage)
+{
+    CargarIngles();
+    IndexWindow *index = open();
+    const struct {
+        const char *label, *window;
+    } tools[] = {{"Labelcom17", "romanos"},     {"Labelcom4", "calculadora"},
+                 {"Labelcom7", "trigo"},        {"Labelcom5", "radian"},
+                 {"Labelcom18", "temperatura"}, {"Labelcom16", "bisiesto"}};
+    for (const auto &tool : tools) {
+        index->labelClick(QLatin1String(tool.label));
+        QWidget *window = forms().find(QLatin1String(tool.window));
+        ASSERT_NE(window, nullptr) << tool.window;
+        EXPECT_TRUE(window->isVisible()) << tool.window;
+        bool english = false;
+        for (QWidget *control : window->findChildren<QWidget *>()) {
+            const QVariant text = control->property("text");
+            english |= text.toString() == QLatin1String("Close");
+        }
+        EXPECT_TRUE(english || QLatin1String(tool.window) == QLatin1String("romanos"))
+            << tool.window;
+    }
+    EXPECT_TRUE(index->isVisible());
+}
+
+} // namespace
+} // namespace zafro

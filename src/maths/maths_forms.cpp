@@ -1,0 +1,24 @@
+#include "maths/maths_forms.h"
+
+#include "maths/bisiesto_window.h"
+#include "maths/calculadora_window.h"
+#include "maths/radian_window.h"
+#include "maths/romanos_window.h"
+#include "maths/temperatura_window.h"
+#include "maths/trigo_window.h"
+#include "shell/forms.h"
+
+namespace zafro {
+
+void registerMathsForms()
+{
+    Forms &f = forms();
+    f.registerForm(QStringLiteral("romanos"), [] { return new RomanosWindow; });
+    f.registerForm(QStringLiteral("calculadora"), [] { return new CalculadoraWindow; });
+    f.registerForm(QStringLiteral("trigo"), [] { return new TrigoWindow; });
+    f.registerForm(QStringLiteral("radian"), [] { return new RadianWindow; });
+    f.registerForm(QStringLiteral("temperatura"), [] { return new TemperaturaWindow; });
+    f.registerForm(QStringLiteral("bisiesto"), [] { return new BisiestoWindow; });
+}
+
+} // namespace zafro
