@@ -47,7 +47,6 @@ void BisiestoWindow::formLoad()
 {
     frame_ = new ToolFrame(this);
     frame_->paint();
-    calculators::outlineBoxes(this);
     label1_->setText(texto(slot::AnosBisiestos));
     label2_->setText(texto(slot::BisiestoAno));
     command1_->setText(texto(slot::BisiestoComprobar));

@@ -80,7 +80,6 @@ void CalculadoraWindow::formLoad()
 {
     frame_ = new ToolFrame(this);
     frame_->paint();
-    calculators::outlineBoxes(this);
     label3_->setText(texto(slot::Calculadora));
     text4_->setText(texto(slot::CalculadoraResultado));
     command1_->setText(texto(slot::Cerrar));

@@ -28,17 +28,6 @@ inline void setBold(QWidget *w, int pointSize)
     w->setFont(font);
 }
 
-// Boxes take the window's background from the skin and would lose their edges on a
-// dark one: their outline follows the text colour instead. Runs after the skin.
-inline void outlineBoxes(QWidget *window)
-{
-    for (QLineEdit *box : window->findChildren<QLineEdit *>()) {
-        QPalette palette = box->palette();
-        palette.setColor(QPalette::Window, palette.color(QPalette::Text));
-        box->setPalette(palette);
-    }
-}
-
 // A left click that ends on the window's own surface. A press on a label passes up
 // to the window too, but then the label lies under the point.
 inline bool isBackgroundClick(QWidget *window, const QMouseEvent *event)

@@ -45,7 +45,6 @@ void RadianWindow::formLoad()
 {
     frame_ = new ToolFrame(this);
     frame_->paint();
-    calculators::outlineBoxes(this);
     label1_->setText(texto(slot::GradosRadianes));
     label2_->setText(texto(slot::Grados));
     label3_->setText(texto(slot::Radianes));

@@ -77,10 +77,6 @@ void RomanosWindow::formLoad()
 {
     frame_ = new ToolFrame(this);
     frame_->paint();
-    // The style outlines a box in a shade of the colour behind it, which hides the
-    // boxes on a dark skin; their text colour keeps them apart from the labels.
-    for (QLineEdit *box : {text1_, text2_})
-        setPaletteRole(box, QPalette::Window, box->palette().color(QPalette::Text));
     label2_->setText(texto(slot::NumerosRomanos));
     command2_->setText(texto(slot::ARomanos));
     command1_->setText(texto(slot::AArabes));

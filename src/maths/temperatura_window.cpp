@@ -54,7 +54,6 @@ void TemperaturaWindow::formLoad()
 {
     frame_ = new ToolFrame(this);
     frame_->paint();
-    calculators::outlineBoxes(this);
     label10_->setText(texto(slot::Temperatura));
     label11_->setText(texto(slot::SeleccionaConversion));
     label12_->setText(texto(slot::Inicial));

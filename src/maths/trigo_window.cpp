@@ -51,7 +51,6 @@ void TrigoWindow::formLoad()
 {
     frame_ = new ToolFrame(this);
     frame_->paint();
-    calculators::outlineBoxes(this);
     label1_->setText(texto(slot::Trigonometria));
     label2_->setText(texto(slot::NumeroDeGrados));
     label3_->setText(texto(slot::TrigoSeno));

@@ -110,6 +110,10 @@ void ToolFrame::paint()
             box->setAutoFillBackground(check);
             setPaletteRole(box, check ? QPalette::Window : QPalette::Base,
                            skinColour(QStringLiteral("BackColor")));
+            // The style draws a box's edge in a shade of the colour behind it, which
+            // hides the box on a dark skin; its text colour keeps it apart from a label.
+            if (qobject_cast<QLineEdit *>(box))
+                setPaletteRole(box, QPalette::Window, box->palette().color(QPalette::Text));
         }
 }
 

@@ -1,3 +1,4 @@
+#include "error_number.h"
 #include "maths/bisiesto.h"
 #include "maths/calculadora.h"
 #include "maths/radian.h"
@@ -13,17 +14,6 @@
 
 namespace zafro {
 namespace {
-
-// The number of the run-time error that the call raises, or 0 if it returns.
-int errorOf(const std::function<void()> &call)
-{
-    try {
-        call();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
 
 // --- calculadora ---------------------------------------------------------------------
 
@@ -57,13 +47,14 @@ TEST(CalculadoraOperar, GivesTheFiveOperationsAndCatchesOnlyTheTwoCasesItTells)
     }
     EXPECT_EQ(signoDe(Operacion::Producto), QStringLiteral("x"));
 
-    EXPECT_EQ(errorOf([] { operar(Operacion::Potencia, -8, 1.0 / 3); }), 5);
-    EXPECT_EQ(errorOf([] { operar(Operacion::Potencia, 0, -1); }), 5) << "only 0^0 is caught";
-    EXPECT_EQ(errorOf([] { operar(Operacion::Potencia, 10, 400); }), 6);
-    EXPECT_EQ(errorOf([] { operar(Operacion::Suma, 1e308, 1e308); }), 6);
-    EXPECT_EQ(errorOf([] { operar(Operacion::Resta, -1e308, 1e308); }), 6);
-    EXPECT_EQ(errorOf([] { operar(Operacion::Producto, 1e308, 10); }), 6);
-    EXPECT_EQ(errorOf([] { operar(Operacion::Division, 1e308, 1e-10); }), 6);
+    EXPECT_EQ(test::errorNumber([] { operar(Operacion::Potencia, -8, 1.0 / 3); }), 5);
+    EXPECT_EQ(test::errorNumber([] { operar(Operacion::Potencia, 0, -1); }), 5)
+        << "only 0^0 is caught";
+    EXPECT_EQ(test::errorNumber([] { operar(Operacion::Potencia, 10, 400); }), 6);
+    EXPECT_EQ(test::errorNumber([] { operar(Operacion::Suma, 1e308, 1e308); }), 6);
+    EXPECT_EQ(test::errorNumber([] { operar(Operacion::Resta, -1e308, 1e308); }), 6);
+    EXPECT_EQ(test::errorNumber([] { operar(Operacion::Producto, 1e308, 10); }), 6);
+    EXPECT_EQ(test::errorNumber([] { operar(Operacion::Division, 1e308, 1e-10); }), 6);
 }
 
 TEST(CalculadoraBases, HexadecimalRoundsToThirtyTwoBitsAndComplementsNegatives)
@@ -82,8 +73,8 @@ TEST(CalculadoraBases, HexadecimalRoundsToThirtyTwoBitsAndComplementsNegatives)
                 {-2147483648.0, "80000000"}};
     for (const auto &row : rows)
         EXPECT_EQ(textoHexadecimal(row.valor), QLatin1String(row.hexa)) << row.valor;
-    EXPECT_EQ(errorOf([] { textoHexadecimal(2147483648.0); }), 6);
-    EXPECT_EQ(errorOf([] { textoHexadecimal(-2147483649.0); }), 6);
+    EXPECT_EQ(test::errorNumber([] { textoHexadecimal(2147483648.0); }), 6);
+    EXPECT_EQ(test::errorNumber([] { textoHexadecimal(-2147483649.0); }), 6);
 }
 
 TEST(CalculadoraBases, ConvertFromTheBaseTheWindowBelievesTheResultIsIn)
@@ -122,11 +113,11 @@ TEST(CalculadoraBases, ConvertFromTheBaseTheWindowBelievesTheResultIsIn)
                   QLatin1String(row.esperado))
             << row.resultado << " in base " << row.base.toStdString();
 
-    EXPECT_EQ(errorOf([&] { convertirABinario(QStringLiteral("RESULTADO"), dec); }), 13);
-    EXPECT_EQ(errorOf([&] { convertirADecimal(QStringLiteral("FF"), bin); }), 13);
-    EXPECT_EQ(errorOf([&] { convertirAHexadecimal(QStringLiteral("1E+20"), dec); }), 6);
-    EXPECT_EQ(errorOf([&] { convertirABinario(QStringLiteral("3000000000"), dec); }), 6);
-    EXPECT_EQ(errorOf([&] { convertirABinario(QStringLiteral("FFFFFFFF"), hexa); }), 6);
+    EXPECT_EQ(test::errorNumber([&] { convertirABinario(QStringLiteral("RESULTADO"), dec); }), 13);
+    EXPECT_EQ(test::errorNumber([&] { convertirADecimal(QStringLiteral("FF"), bin); }), 13);
+    EXPECT_EQ(test::errorNumber([&] { convertirAHexadecimal(QStringLiteral("1E+20"), dec); }), 6);
+    EXPECT_EQ(test::errorNumber([&] { convertirABinario(QStringLiteral("3000000000"), dec); }), 6);
+    EXPECT_EQ(test::errorNumber([&] { convertirABinario(QStringLiteral("FFFFFFFF"), hexa); }), 6);
 }
 
 TEST(CalculadoraBases, TheRegionDecidesHowAFractionalResultIsRead)
@@ -191,9 +182,9 @@ TEST(Radian, ConvertsWithTheToolsPiAndRoundsToFourDecimals)
         EXPECT_DOUBLE_EQ(aRadianes(row.valor), row.radianes) << row.valor;
         EXPECT_DOUBLE_EQ(aGrados(row.valor), row.grados) << row.valor;
     }
-    EXPECT_EQ(errorOf([] { aRadianes(1e308); }), 6);
-    EXPECT_EQ(errorOf([] { aGrados(1e307); }), 6);
-    EXPECT_EQ(errorOf([] { aRadianes(5e307); }), 0);
+    EXPECT_EQ(test::errorNumber([] { aRadianes(1e308); }), 6);
+    EXPECT_EQ(test::errorNumber([] { aGrados(1e307); }), 6);
+    EXPECT_EQ(test::errorNumber([] { aRadianes(5e307); }), 0);
 }
 
 // --- temperatura ---------------------------------------------------------------------
@@ -227,9 +218,11 @@ TEST(Temperatura, EachEntryUsesItsOwnFactorsAndIsNotRounded)
                   QLatin1String(row.hasta));
     }
     for (int entrada : {0, 5})
-        EXPECT_EQ(errorOf([entrada] { convertirTemperatura(entrada, 1e308); }), 6) << entrada;
+        EXPECT_EQ(test::errorNumber([entrada] { convertirTemperatura(entrada, 1e308); }), 6)
+            << entrada;
     for (int entrada : {1, 2, 3, 4})
-        EXPECT_EQ(errorOf([entrada] { convertirTemperatura(entrada, 1e308); }), 0) << entrada;
+        EXPECT_EQ(test::errorNumber([entrada] { convertirTemperatura(entrada, 1e308); }), 0)
+            << entrada;
 }
 
 // --- bisiesto ------------------------------------------------------------------------
@@ -264,8 +257,8 @@ TEST(Bisiesto, TheBoxIsReadLenientlyAndHeldInThirtyTwoBits)
         {"1e3", 1000},  {" 2 0 0 4", 2004}, {"&H7D0", 2000}, {"0.4", 0},       {"2000,5", 2000}};
     for (const auto &row : rows)
         EXPECT_EQ(leerAno(QLatin1String(row.texto)), row.ano) << row.texto;
-    EXPECT_EQ(errorOf([] { leerAno(QStringLiteral("2147483648")); }), 6);
-    EXPECT_EQ(errorOf([] { leerAno(QStringLiteral("-3e9")); }), 6);
+    EXPECT_EQ(test::errorNumber([] { leerAno(QStringLiteral("2147483648")); }), 6);
+    EXPECT_EQ(test::errorNumber([] { leerAno(QStringLiteral("-3e9")); }), 6);
 
     EXPECT_TRUE(avisarAnoCero(QStringLiteral("0")));
     for (const char *texto : {"abc", "", "0.0", " 0", "00", "-0"})

@@ -1,3 +1,4 @@
+#include "error_number.h"
 #include "fakes.h"
 #include "maths/bisiesto_window.h"
 #include "maths/calculadora_window.h"
@@ -28,16 +29,6 @@ namespace zafro {
 namespace {
 
 using test::fakes;
-
-int errorOf(const std::function<void()> &call)
-{
-    try {
-        call();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
 
 void registerCalculators()
 {
@@ -169,7 +160,7 @@ TEST_F(CalculatorWindowTest, AnAbsentSkinStopsTheLoadWithTheConversionError)
 {
     writeConfig(QStringLiteral("ForeColor"), QString(), QStringLiteral("Colores"));
     for (const char *name : kCalculators) {
-        EXPECT_EQ(errorOf([name] { forms().show(QLatin1String(name)); }), 13) << name;
+        EXPECT_EQ(test::errorNumber([name] { forms().show(QLatin1String(name)); }), 13) << name;
         forms().unloadAll();
     }
 }
@@ -390,14 +381,15 @@ TEST_F(CalculadoraWindowTest, TheBackgroundPutsTheDesignTextsBackInBoxesThatRead
 TEST_F(CalculadoraWindowTest, WhatTheBasesCannotReadEndsAsTheRuntimesError)
 {
     CalculadoraWindow *w = calc();
-    EXPECT_EQ(errorOf([w] { w->conv3Click(); }), 13) << "\"RESULTADO\" is no 32-bit number";
+    EXPECT_EQ(test::errorNumber([w] { w->conv3Click(); }), 13)
+        << "\"RESULTADO\" is no 32-bit number";
     type("Text2", QStringLiteral("3000000000"));
     type("Text3", QStringLiteral("0"));
     w->command3Click();
-    EXPECT_EQ(errorOf([w] { w->conv1Click(); }), 6) << "beyond 32 bits";
+    EXPECT_EQ(test::errorNumber([w] { w->conv1Click(); }), 6) << "beyond 32 bits";
     type("Text2", QStringLiteral("1e308"));
     type("Text3", QStringLiteral("10"));
-    EXPECT_EQ(errorOf([w] { w->command5Click(); }), 6);
+    EXPECT_EQ(test::errorNumber([w] { w->command5Click(); }), 6);
 }
 
 TEST_F(CalculadoraWindowTest, ResultsAreWrittenInTheRegionsFormAndReadWithAPoint)
@@ -519,7 +511,7 @@ TEST_F(CalculatorWindowTest, RadianConvertsBothWaysAndSwapsTheUnitCaptions)
 
     auto *w = static_cast<RadianWindow *>(window);
     type("Text1", QStringLiteral("1e308"));
-    EXPECT_EQ(errorOf([w] { w->command1Click(); }), 6);
+    EXPECT_EQ(test::errorNumber([w] { w->command1Click(); }), 6);
 }
 
 // --- temperatura -------------------------------------------------------------------
@@ -596,7 +588,7 @@ TEST_F(CalculatorWindowTest, TemperaturaClicksClearTheBoxesWhileTheInputReadsZer
     get<QLineEdit>("Text8")->blockSignals(true);
     get<QLineEdit>("Text8")->setText(QStringLiteral("1e308"));
     get<QLineEdit>("Text8")->blockSignals(false);
-    EXPECT_EQ(errorOf([w] { w->text8Change(); }), 6);
+    EXPECT_EQ(test::errorNumber([w] { w->text8Change(); }), 6);
 }
 
 // --- bisiesto ----------------------------------------------------------------------
@@ -632,7 +624,7 @@ TEST_F(CalculatorWindowTest, BisiestoChecksTheYearOnComprobar)
 
     auto *w = static_cast<BisiestoWindow *>(window);
     type("Text1", QStringLiteral("3000000000"));
-    EXPECT_EQ(errorOf([w] { w->command1Click(); }), 6);
+    EXPECT_EQ(test::errorNumber([w] { w->command1Click(); }), 6);
 }
 
 TEST_F(CalculatorWindowTest, BisiestoYearZeroAndTheClarificationAreMessages)

@@ -1,3 +1,4 @@
+#include "error_number.h"
 #include "fakes.h"
 #include "maths/romanos.h"
 #include "maths/romanos_window.h"
@@ -20,17 +21,6 @@
 
 namespace zafro {
 namespace {
-
-// The number of the run-time error that the call raises, or 0 if it returns.
-int errorOf(const std::function<void()> &call)
-{
-    try {
-        call();
-    } catch (const RuntimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
 
 // --- Arabic to Roman -------------------------------------------------------------
 
@@ -63,7 +53,7 @@ TEST(ConvertirRomano, ZeroAndFiveDigitNumbersGiveEmptyText)
 TEST(ConvertirRomano, TheSignOfANegativeNumberIsATypeMismatch)
 {
     for (qint16 numero : {-1, -5, -1234, -32768})
-        EXPECT_EQ(errorOf([numero] { ConvertirRomano(numero); }), 13) << numero;
+        EXPECT_EQ(test::errorNumber([numero] { ConvertirRomano(numero); }), 13) << numero;
 }
 
 TEST(ConvertirRomano, EveryWritableNumberReadsBackToItself)
@@ -121,7 +111,8 @@ TEST(ConvertirArabe, AddsOrSubtractsEachLetterByTheOneAfterItWithoutGrammar)
 TEST(ConvertirArabe, ATotalBeyondSixteenBitsIsAnOverflow)
 {
     for (const char *romano : {"HHHMMDCCLXVIII", "HHHH", "HHHQ", "QQQQQQQ"})
-        EXPECT_EQ(errorOf([romano] { ConvertirArabe(QLatin1String(romano)); }), 6) << romano;
+        EXPECT_EQ(test::errorNumber([romano] { ConvertirArabe(QLatin1String(romano)); }), 6)
+            << romano;
 }
 
 // --- Number bases ----------------------------------------------------------------
@@ -154,7 +145,7 @@ TEST(HexADec, APlaceBeyondTheDoubleRangeIsAnOverflow)
     const QString largest = QLatin1Char('F') + QString(255, QLatin1Char('0'));
     EXPECT_GT(HexADec(largest), 1e307);
     const QString tooLong = QLatin1Char('1') + QString(256, QLatin1Char('0'));
-    EXPECT_EQ(errorOf([&] { HexADec(tooLong); }), 6);
+    EXPECT_EQ(test::errorNumber([&] { HexADec(tooLong); }), 6);
 }
 
 TEST(BinADec, ReadsEachCharacterAsANumberByItsPlace)
@@ -181,9 +172,9 @@ TEST(BinADec, ReadsEachCharacterAsANumberByItsPlace)
 TEST(BinADec, ACharacterThatIsNoNumberIsATypeMismatchAndBigSumsOverflow)
 {
     for (const char *binario : {"1a", "1 1", "1.1", "-1", "1,0", "b"})
-        EXPECT_EQ(errorOf([binario] { BinADec(QLatin1String(binario)); }), 13) << binario;
+        EXPECT_EQ(test::errorNumber([binario] { BinADec(QLatin1String(binario)); }), 13) << binario;
     const QString twoToThe31 = QLatin1Char('1') + QString(31, QLatin1Char('0'));
-    EXPECT_EQ(errorOf([&] { BinADec(twoToThe31); }), 6);
+    EXPECT_EQ(test::errorNumber([&] { BinADec(twoToThe31); }), 6);
     EXPECT_EQ(BinADec(QString(40, QLatin1Char('0')) + QLatin1String("11")), 3);
 }
 
@@ -347,18 +338,18 @@ TEST_F(RomanosWindowTest, SixteenBitOverflowsAndTheSignLeaveTheHandlerAsRunTimeE
     label1->setText(QStringLiteral("before"));
     for (const char *arabe : {"40000", "32768", "-40000"}) {
         text1->setText(QLatin1String(arabe));
-        EXPECT_EQ(errorOf([this] { window->command2Click(); }), 6) << arabe;
+        EXPECT_EQ(test::errorNumber([this] { window->command2Click(); }), 6) << arabe;
         int enter = 13;
-        EXPECT_EQ(errorOf([&] { window->text1KeyPress(enter); }), 6) << arabe;
+        EXPECT_EQ(test::errorNumber([&] { window->text1KeyPress(enter); }), 6) << arabe;
     }
     text1->setText(QStringLiteral("-5"));
-    EXPECT_EQ(errorOf([this] { window->command2Click(); }), 13);
+    EXPECT_EQ(test::errorNumber([this] { window->command2Click(); }), 13);
     text1->setText(QStringLiteral("32767"));
-    EXPECT_EQ(errorOf([this] { window->command2Click(); }), 0);
+    EXPECT_EQ(test::errorNumber([this] { window->command2Click(); }), 0);
 
     text2->setText(QStringLiteral("hhhh"));
     int enter = 13;
-    EXPECT_EQ(errorOf([&] { window->text2KeyPress(enter); }), 6);
+    EXPECT_EQ(test::errorNumber([&] { window->text2KeyPress(enter); }), 6);
     EXPECT_EQ(text2->text(), QStringLiteral("HHHH")) << "the box is rewritten before the sum";
     EXPECT_EQ(label1->text(), QString()) << "32767 has five digits";
 }

@@ -140,6 +140,7 @@ TEST(FramePaint, EachRoleTakesItsSkinColourAndTitleLabelsTheTitleColour)
             << name;
     EXPECT_EQ(colourOf(tool->box, QPalette::Text), text);
     EXPECT_EQ(colourOf(tool->box, QPalette::Base), back);
+    EXPECT_EQ(colourOf(tool->box, QPalette::Window), text) << "its edge stands out on any skin";
     EXPECT_EQ(colourOf(tool->check, QPalette::WindowText), text);
     EXPECT_EQ(colourOf(tool->check, QPalette::Window), back);
     EXPECT_EQ(colourOf(tool->close, QPalette::Button), button);
