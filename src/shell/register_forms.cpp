@@ -1,6 +1,8 @@
 #include "shell/register_forms.h"
 
+#include "formulas/graphs_forms.h"
 #include "maths/maths_forms.h"
+#include "plates/plates_forms.h"
 #include "shell/au_window.h"
 #include "shell/colores_window.h"
 #include "shell/colorestuyos_window.h"
@@ -26,6 +28,8 @@ void registerForms()
     f.registerForm(QStringLiteral("colores"), [] { return new ColoresWindow; });
     f.registerForm(QStringLiteral("colorestuyos"), [] { return new ColorestuyosWindow; });
     registerMathsForms();
+    registerGraphForms();
+    registerPlatesForms();
     // Windows of the shell whose own behaviour comes later stand in with their name.
     for (const char *name : {"preferencias", "acercade", "limpia"}) {
         const QString title = QLatin1String(name);

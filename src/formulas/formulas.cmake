@@ -1,0 +1,1 @@
+# cFormulas: logic in zafro_core; the developer tool and the fuzzer as their own targets.

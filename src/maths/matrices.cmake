@@ -1,0 +1,1 @@
+# matrices: logic in zafro_core, window in zafro_ui

@@ -1,0 +1,1 @@
+# list(APPEND FORMULAS_TEST_SOURCES ${CMAKE_CURRENT_LIST_DIR}/graphs_test.cpp)

@@ -1,0 +1,1 @@
+# list(APPEND PLATES_TEST_SOURCES ${CMAKE_CURRENT_LIST_DIR}/plates_test.cpp)
