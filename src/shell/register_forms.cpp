@@ -2,6 +2,7 @@
 
 #include "formulas/graphs_forms.h"
 #include "maths/maths_forms.h"
+#include "online/online_forms.h"
 #include "plates/plates_forms.h"
 #include "shell/au_window.h"
 #include "shell/colores_window.h"
@@ -30,6 +31,7 @@ void registerForms()
     registerMathsForms();
     registerGraphForms();
     registerPlatesForms();
+    registerOnlineForms();
     // Windows of the shell whose own behaviour comes later stand in with their name.
     for (const char *name : {"preferencias", "acercade", "limpia"}) {
         const QString title = QLatin1String(name);

@@ -1,0 +1,1 @@
+# list(APPEND ONLINE_TEST_SOURCES ${CMAKE_CURRENT_LIST_DIR}/fetch_cycle_test.cpp)
