@@ -2,6 +2,7 @@
 
 #include "maths/bisiesto_window.h"
 #include "maths/calculadora_window.h"
+#include "maths/matrices_window.h"
 #include "maths/radian_window.h"
 #include "maths/romanos_window.h"
 #include "maths/temperatura_window.h"
@@ -19,6 +20,7 @@ void registerMathsForms()
     f.registerForm(QStringLiteral("radian"), [] { return new RadianWindow; });
     f.registerForm(QStringLiteral("temperatura"), [] { return new TemperaturaWindow; });
     f.registerForm(QStringLiteral("bisiesto"), [] { return new BisiestoWindow; });
+    f.registerForm(QStringLiteral("matrices"), [] { return new MatricesWindow; });
 }
 
 } // namespace zafro

@@ -1,2 +1,8 @@
 # Plates: logic in zafro_core, windows in zafro_ui.
-target_sources(zafro_ui PRIVATE ${CMAKE_CURRENT_LIST_DIR}/plates_forms.cpp)
+target_sources(zafro_core PRIVATE ${CMAKE_CURRENT_LIST_DIR}/matriculas.cpp)
+target_sources(zafro_ui PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/plates_forms.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/plates_update.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/current_pane.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/matriculas_window.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/matacercade_window.cpp)

@@ -1,9 +1,16 @@
 #include "plates/plates_forms.h"
 
+#include "plates/matacercade_window.h"
+#include "plates/matriculas_window.h"
 #include "shell/forms.h"
 
 namespace zafro {
 
-void registerPlatesForms() {}
+void registerPlatesForms()
+{
+    Forms &f = forms();
+    f.registerForm(QStringLiteral("matriculasselect"), [] { return new MatriculasWindow; });
+    f.registerForm(QStringLiteral("matacercade"), [] { return new MatacercadeWindow; });
+}
 
 } // namespace zafro

@@ -108,6 +108,8 @@ void ToolFrame::paint()
         for (QWidget *box : boxes) {
             const bool check = qobject_cast<QCheckBox *>(box) != nullptr;
             box->setAutoFillBackground(check);
+            if (check)
+                box->setBackgroundRole(QPalette::Window); // a button's role fills it otherwise
             setPaletteRole(box, check ? QPalette::Window : QPalette::Base,
                            skinColour(QStringLiteral("BackColor")));
             // The style draws a box's edge in a shade of the colour behind it, which

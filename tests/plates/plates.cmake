@@ -1,1 +1,3 @@
-# list(APPEND PLATES_TEST_SOURCES ${CMAKE_CURRENT_LIST_DIR}/plates_test.cpp)
+list(APPEND PLATES_TEST_SOURCES
+  ${CMAKE_CURRENT_LIST_DIR}/matriculas_test.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/matriculas_window_test.cpp)

@@ -337,7 +337,8 @@ TEST_F(Launcher, EveryBuiltToolOpensFromItsLabelInTheCurrentLanguage)
         const char *label, *window;
     } tools[] = {{"Labelcom17", "romanos"},     {"Labelcom4", "calculadora"},
                  {"Labelcom7", "trigo"},        {"Labelcom5", "radian"},
-                 {"Labelcom18", "temperatura"}, {"Labelcom16", "bisiesto"}};
+                 {"Labelcom18", "temperatura"}, {"Labelcom16", "bisiesto"},
+                 {"Labelcom2b", "matrices"}};
     for (const auto &tool : tools) {
         index->labelClick(QLatin1String(tool.label));
         QWidget *window = forms().find(QLatin1String(tool.window));
