@@ -1,5 +1,6 @@
 #include "shell/index_window.h"
 
+#include "formulas/cformulas.h"
 #include "platform/services.h"
 #include "shell/controls.h"
 #include "shell/forms.h"
@@ -11,6 +12,7 @@
 #include "shell/toolframe.h"
 #include "shell/window_shape.h"
 
+#include <QLineEdit>
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
@@ -125,6 +127,16 @@ IndexWindow::IndexWindow()
     // The popup's two buttons; the popup itself is one of the launcher's services.
     button(this, "Command9", QString(), px(530, 430, 130, 22));
     button(this, "Command10", QString(), px(530, 430, 130, 22));
+
+    // A formula bench, hidden at design, that nothing shows.
+    for (const char *name : {"Text2", "Text3"}) {
+        auto *box = new QLineEdit(this);
+        box->setObjectName(QLatin1String(name));
+        box->hide();
+    }
+    button(this, "Command14", QString(), px(0, 0, 20, 20))->hide();
+    connect(findChild<QPushButton *>(QStringLiteral("Command14")), &QPushButton::clicked, this,
+            &IndexWindow::command14Click);
 
     connect(command4, &QPushButton::clicked, this, &IndexWindow::command4Click);
     connect(command7, &QPushButton::clicked, this, &IndexWindow::command7Click);
@@ -286,6 +298,12 @@ void IndexWindow::command12Click()
 void IndexWindow::command19Click()
 {
     forms().show(QStringLiteral("colores"));
+}
+
+void IndexWindow::command14Click()
+{
+    const QString formula = findChild<QLineEdit *>(QStringLiteral("Text2"))->text();
+    findChild<QLineEdit *>(QStringLiteral("Text3"))->setText(formulaBench(formula));
 }
 
 void IndexWindow::label1Click()

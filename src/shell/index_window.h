@@ -34,6 +34,7 @@ public:
     void command11Click();
     void command12Click();
     void command19Click();
+    void command14Click(); // the hidden formula bench
     void label1Click();
     void label6Click();
     void timer5Timer();

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
@@ -353,6 +354,28 @@ TEST_F(Launcher, EveryBuiltToolOpensFromItsLabelInTheCurrentLanguage)
             << tool.window;
     }
     EXPECT_TRUE(index->isVisible());
+}
+
+} // namespace
+} // namespace zafro
+
+namespace zafro {
+namespace {
+
+TEST_F(Launcher, TheHiddenBenchEvaluatesWithAFreshObjectPerClick)
+{
+    IndexWindow *index = open();
+    auto *text2 = index->findChild<QLineEdit *>(QStringLiteral("Text2"));
+    auto *text3 = index->findChild<QLineEdit *>(QStringLiteral("Text3"));
+    auto *command14 = index->findChild<QPushButton *>(QStringLiteral("Command14"));
+    ASSERT_TRUE(text2 && text3 && command14);
+    EXPECT_TRUE(text2->isHidden() && text3->isHidden() && command14->isHidden());
+    text2->setText(QStringLiteral("x=2:y=3:Max(x,y)*Sqr(16)"));
+    index->command14Click();
+    EXPECT_EQ(text3->text(), QStringLiteral("12"));
+    text2->setText(QStringLiteral("x"));
+    index->command14Click();
+    EXPECT_NE(text3->text(), QStringLiteral("2")) << "a variable does not outlive its click";
 }
 
 } // namespace
