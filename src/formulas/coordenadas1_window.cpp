@@ -17,7 +17,6 @@
 namespace zafro {
 
 using graficas::kEnter;
-using graficas::place;
 
 namespace {
 

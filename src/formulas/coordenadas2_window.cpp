@@ -15,7 +15,6 @@
 
 namespace zafro {
 
-using graficas::place;
 
 namespace {
 

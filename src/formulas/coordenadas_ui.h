@@ -10,14 +10,6 @@
 
 namespace zafro::graficas {
 
-// Names a control after its original and places it in twips.
-template <typename T> T *place(T *w, const char *name, int left, int top, int width, int height)
-{
-    w->setObjectName(QLatin1String(name));
-    w->setGeometry(twipsRect(left, top, width, height));
-    return w;
-}
-
 inline constexpr int kEnter = 13;
 
 // Gives the box's typed keys to a key-press step as character codes (Enter as 13);

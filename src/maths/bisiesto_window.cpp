@@ -13,9 +13,6 @@
 
 namespace zafro {
 
-using calculators::place;
-using calculators::setBold;
-
 BisiestoWindow::BisiestoWindow()
     : label1_(place(new QLabel(this), "Label1", 120, 120, 5160, 540)),
       label2_(place(new QLabel(this), "Label2", 360, 870, 1080, 300)),

@@ -14,9 +14,6 @@
 
 namespace zafro {
 
-using calculators::place;
-using calculators::setBold;
-
 namespace {
 
 const QString kTexto2 = QStringLiteral("NUMº 1");

@@ -12,22 +12,6 @@
 
 namespace zafro::calculators {
 
-// Names a control after its original and places it in twips.
-template <typename T> T *place(T *w, const char *name, int left, int top, int width, int height)
-{
-    w->setObjectName(QLatin1String(name));
-    w->setGeometry(twipsRect(left, top, width, height));
-    return w;
-}
-
-inline void setBold(QWidget *w, int pointSize)
-{
-    QFont font = w->font();
-    font.setBold(true);
-    font.setPointSize(pointSize);
-    w->setFont(font);
-}
-
 // A left click that ends on the window's own surface. A press on a label passes up
 // to the window too, but then the label lies under the point.
 inline bool isBackgroundClick(QWidget *window, const QMouseEvent *event)

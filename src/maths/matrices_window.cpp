@@ -35,26 +35,6 @@ constexpr int kFila[] = {2805, 3255, 3705, 4155, 4605};
 constexpr int kAnchoBoton = 1710;
 constexpr int kAltoBoton = 375;
 
-template <typename T> T *place(T *w, const QString &name, int left, int top, int width, int height)
-{
-    w->setObjectName(name);
-    w->setGeometry(twipsRect(left, top, width, height));
-    return w;
-}
-
-template <typename T> T *place(T *w, const char *name, int left, int top, int width, int height)
-{
-    return place(w, QLatin1String(name), left, top, width, height);
-}
-
-void setBold(QWidget *w, int pointSize)
-{
-    QFont font = w->font();
-    font.setBold(true);
-    font.setPointSize(pointSize);
-    w->setFont(font);
-}
-
 QPlainTextEdit *cajaDeMatriz(QWidget *parent, const char *name, int left, int top, int width,
                              int height)
 {

@@ -13,9 +13,6 @@
 
 namespace zafro {
 
-using calculators::place;
-using calculators::setBold;
-
 RadianWindow::RadianWindow()
     : label1_(place(new QLabel(this), "Label1", 120, 120, 4800, 540)),
       label2_(place(new QLabel(this), "Label2", 3000, 870, 1800, 300)),

@@ -19,21 +19,6 @@ namespace {
 
 constexpr int kEnter = 13;
 
-template <typename T> T *place(T *w, const char *name, int left, int top, int width, int height)
-{
-    w->setObjectName(QLatin1String(name));
-    w->setGeometry(twipsRect(left, top, width, height));
-    return w;
-}
-
-void setBold(QWidget *w, int pointSize)
-{
-    QFont font = w->font();
-    font.setBold(true);
-    font.setPointSize(pointSize);
-    w->setFont(font);
-}
-
 // The key as a key-press step sees it: Enter as 13, a typed character as its code,
 // and -1 for keys that type nothing.
 int keyAsciiOf(const QKeyEvent *event)

@@ -14,9 +14,6 @@
 
 namespace zafro {
 
-using calculators::place;
-using calculators::setBold;
-
 TemperaturaWindow::TemperaturaWindow()
     : label10_(place(new QLabel(this), "Label10", 120, 120, 5160, 540)),
       label11_(place(new QLabel(this), "Label11", 360, 780, 4800, 300)),

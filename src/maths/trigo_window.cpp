@@ -12,9 +12,6 @@
 
 namespace zafro {
 
-using calculators::place;
-using calculators::setBold;
-
 TrigoWindow::TrigoWindow()
     : label1_(place(new QLabel(this), "Label1", 120, 120, 5160, 540)),
       label2_(place(new QLabel(this), "Label2", 240, 870, 2520, 300)),

@@ -18,21 +18,6 @@ namespace zafro {
 
 namespace {
 
-template <typename T> T *place(T *w, const char *name, int left, int top, int width, int height)
-{
-    w->setObjectName(QLatin1String(name));
-    w->setGeometry(twipsRect(left, top, width, height));
-    return w;
-}
-
-void setBold(QWidget *w, int pointSize)
-{
-    QFont font = w->font();
-    font.setBold(true);
-    font.setPointSize(pointSize);
-    w->setFont(font);
-}
-
 const QString kDivisas = QString::fromUtf16(kDivisasKey);
 
 void setMainCaption(const QString &caption)

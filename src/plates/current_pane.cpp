@@ -21,13 +21,6 @@ namespace {
 const QString kCifrasIniciales = QStringLiteral("9876");
 const QString kLetraInicial = QStringLiteral("B");
 
-template <typename T> T *place(T *w, const char *name, int left, int top, int width, int height)
-{
-    w->setObjectName(QLatin1String(name));
-    w->setGeometry(twipsRect(left, top, width, height));
-    return w;
-}
-
 void fuente(QWidget *w, int pointSize, bool bold)
 {
     QFont font = w->font();

@@ -13,17 +13,6 @@
 
 namespace zafro {
 
-namespace {
-
-template <typename T> T *place(T *w, const char *name, int left, int top, int width, int height)
-{
-    w->setObjectName(QLatin1String(name));
-    w->setGeometry(twipsRect(left, top, width, height));
-    return w;
-}
-
-} // namespace
-
 MatacercadeWindow::MatacercadeWindow()
     : label1_(place(new QLabel(QStringLiteral("Zafro Matrículas"), this), "Label1", 240, 240, 5280,
                     480)),

@@ -18,13 +18,6 @@ namespace zafro {
 
 namespace {
 
-template <typename T> T *place(T *w, const char *name, int left, int top, int width, int height)
-{
-    w->setObjectName(QLatin1String(name));
-    w->setGeometry(twipsRect(left, top, width, height));
-    return w;
-}
-
 const QString kArchivoDatos = QStringLiteral("zafromdata.zfx");
 
 } // namespace

@@ -61,13 +61,6 @@ const MenuRow kMenus[] = {
 constexpr int kClientWidth = 10920;
 constexpr int kClientHeight = 6600;
 
-template <typename T> T *place(T *w, const char *name, int left, int top, int width, int height)
-{
-    w->setObjectName(QLatin1String(name));
-    w->setGeometry(twipsRect(left, top, width, height));
-    return w;
-}
-
 // Old plates were white on black, the provincial ones black on white, and the
 // national ones carry the blue European band.
 QPushButton *formatButton(QPushButton *button, const char *style)

@@ -36,13 +36,6 @@ constexpr std::array<GroupNames, 4> kGroups{{
 constexpr std::array<const char *, 3> kChannels{"rojo", "verde", "azul"};
 constexpr std::array<int, 3> kChannelSlots{slot::SkinRojos, slot::SkinVerdes, slot::SkinAzules};
 
-QWidget *place(QWidget *w, const QString &name, int left, int top, int width, int height)
-{
-    w->setObjectName(name);
-    w->setGeometry(twipsRect(left, top, width, height));
-    return w;
-}
-
 } // namespace
 
 ColorestuyosWindow::ColorestuyosWindow()

@@ -99,4 +99,12 @@ QRect twipsRect(int left, int top, int width, int height)
                  twipsToPixelsY(height));
 }
 
+void setBold(QWidget *w, int pointSize)
+{
+    QFont font = w->font();
+    font.setBold(true);
+    font.setPointSize(pointSize);
+    w->setFont(font);
+}
+
 } // namespace zafro

@@ -49,4 +49,19 @@ int twipsToPixelsX(int twips);
 int twipsToPixelsY(int twips);
 QRect twipsRect(int left, int top, int width, int height);
 
+// Names a control after its original and places it in design twips.
+template <typename T> T *place(T *w, const QString &name, int left, int top, int width, int height)
+{
+    w->setObjectName(name);
+    w->setGeometry(twipsRect(left, top, width, height));
+    return w;
+}
+template <typename T> T *place(T *w, const char *name, int left, int top, int width, int height)
+{
+    return place(w, QLatin1String(name), left, top, width, height);
+}
+
+// A bold font of the given size, as the tools' designs use for titles and results.
+void setBold(QWidget *w, int pointSize);
+
 } // namespace zafro
