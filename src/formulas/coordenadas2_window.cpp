@@ -15,7 +15,6 @@
 
 namespace zafro {
 
-
 namespace {
 
 constexpr int kLado = 8100; // twips; nearly square keeps circles round
