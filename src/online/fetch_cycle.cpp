@@ -24,6 +24,15 @@ constexpr int kMaxDepth = 10000;
 
 const QString kLineBreak = QStringLiteral("\r\n");
 
+// The plate counts, whether fetched by the plates window or imported from a file.
+constexpr FetchUser platesUser(const char *window)
+{
+    return {window,      "Timern2", "Timern4",           "Timern5", "Timern3",
+            "Commandn1", "Labeln9", "Labeln3",           "Textn2",  false,
+            11,          "zafro",   u"Matriculas Zafro", 12,        {"mes", "coches"},
+            true,        true};
+}
+
 const FetchUser kUsers[] = {
     // News
     {"index",
@@ -61,42 +70,9 @@ const FetchUser kUsers[] = {
      {"currency", "rate"},
      false,
      false},
-    // Plates
-    {"matriculasselect",
-     "Timern2",
-     "Timern4",
-     "Timern5",
-     "Timern3",
-     "Commandn1",
-     "Labeln9",
-     "Labeln3",
-     "Textn2",
-     false,
-     11,
-     "zafro",
-     u"Matriculas Zafro",
-     12,
-     {"mes", "coches"},
-     true,
-     true},
-    // Plate file
-    {"matimportacion",
-     "Timern2",
-     "Timern4",
-     "Timern5",
-     "Timern3",
-     "Commandn1",
-     "Labeln9",
-     "Labeln3",
-     "Textn2",
-     false,
-     11,
-     "zafro",
-     u"Matriculas Zafro",
-     12,
-     {"mes", "coches"},
-     true,
-     true},
+    platesUser("matriculasselect"),
+    // The same document from a file, read by the import window.
+    platesUser("matimportacion"),
 };
 
 QTimer *makeCycleTimer(QObject *owner, const char *name, int intervalMs, bool enabled,
