@@ -41,3 +41,21 @@ function(zafro_add_test name)
   endif()
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES ${_props})
 endfunction()
+
+# The lower floors (platform, runtime, shell) never include a tool's folder: tools
+# build on them, and they reach tools only by window name or through hooks that the
+# program installs. The tools and the shell share zafro_ui, so linking cannot tell.
+function(zafro_check_floors)
+  set(_tools maths formulas plates online identifiers games signals app)
+  list(JOIN _tools "|" _alternatives)
+  foreach(_floor platform runtime shell)
+    file(GLOB_RECURSE _files CONFIGURE_DEPENDS
+         "${PROJECT_SOURCE_DIR}/src/${_floor}/*.h" "${PROJECT_SOURCE_DIR}/src/${_floor}/*.cpp")
+    foreach(_file IN LISTS _files)
+      file(STRINGS "${_file}" _bad REGEX "#[ \t]*include[ \t]*[<\"](${_alternatives})/")
+      if(_bad)
+        message(FATAL_ERROR "${_file} reaches up into a tool folder: ${_bad}")
+      endif()
+    endforeach()
+  endforeach()
+endfunction()

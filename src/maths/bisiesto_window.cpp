@@ -1,9 +1,9 @@
 #include "maths/bisiesto_window.h"
 
 #include "maths/bisiesto.h"
-#include "maths/calculators_ui.h"
 #include "platform/dialogs.h"
 #include "platform/services.h"
+#include "shell/clicks.h"
 #include "shell/language.h"
 #include "shell/toolframe.h"
 

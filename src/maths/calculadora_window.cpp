@@ -1,10 +1,10 @@
 #include "maths/calculadora_window.h"
 
-#include "maths/calculators_ui.h"
 #include "platform/dialogs.h"
 #include "platform/services.h"
 #include "runtime/convert.h"
 #include "runtime/numtext.h"
+#include "shell/clicks.h"
 #include "shell/language.h"
 #include "shell/toolframe.h"
 
@@ -179,7 +179,7 @@ void CalculadoraWindow::formClick()
 
 bool CalculadoraWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (calculators::isBoxClick(event)) {
+    if (isBoxClick(event)) {
         if (watched == text2_)
             text2Click();
         else if (watched == text3_)
@@ -191,7 +191,7 @@ bool CalculadoraWindow::eventFilter(QObject *watched, QEvent *event)
 void CalculadoraWindow::mouseReleaseEvent(QMouseEvent *event)
 {
     Form::mouseReleaseEvent(event);
-    if (calculators::isBackgroundClick(this, event))
+    if (isBackgroundClick(this, event))
         formClick();
 }
 

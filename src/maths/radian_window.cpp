@@ -1,9 +1,9 @@
 #include "maths/radian_window.h"
 
-#include "maths/calculators_ui.h"
 #include "maths/radian.h"
 #include "runtime/convert.h"
 #include "runtime/numtext.h"
+#include "shell/clicks.h"
 #include "shell/language.h"
 #include "shell/toolframe.h"
 
@@ -78,7 +78,7 @@ void RadianWindow::formClick()
 void RadianWindow::mouseReleaseEvent(QMouseEvent *event)
 {
     Form::mouseReleaseEvent(event);
-    if (calculators::isBackgroundClick(this, event))
+    if (isBackgroundClick(this, event))
         formClick();
 }
 

@@ -1,9 +1,9 @@
 #include "maths/temperatura_window.h"
 
-#include "maths/calculators_ui.h"
 #include "maths/temperatura.h"
 #include "runtime/convert.h"
 #include "runtime/numtext.h"
+#include "shell/clicks.h"
 #include "shell/language.h"
 #include "shell/toolframe.h"
 
@@ -105,7 +105,7 @@ void TemperaturaWindow::formClick()
 
 bool TemperaturaWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == text8_ && calculators::isBoxClick(event))
+    if (watched == text8_ && isBoxClick(event))
         text8Click();
     return Form::eventFilter(watched, event);
 }
@@ -113,7 +113,7 @@ bool TemperaturaWindow::eventFilter(QObject *watched, QEvent *event)
 void TemperaturaWindow::mouseReleaseEvent(QMouseEvent *event)
 {
     Form::mouseReleaseEvent(event);
-    if (calculators::isBackgroundClick(this, event))
+    if (isBackgroundClick(this, event))
         formClick();
 }
 

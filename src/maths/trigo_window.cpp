@@ -1,8 +1,8 @@
 #include "maths/trigo_window.h"
 
-#include "maths/calculators_ui.h"
 #include "maths/trigo.h"
 #include "runtime/convert.h"
+#include "shell/clicks.h"
 #include "shell/language.h"
 #include "shell/toolframe.h"
 
@@ -90,7 +90,7 @@ void TrigoWindow::formClick()
 
 bool TrigoWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == text1_ && calculators::isBoxClick(event))
+    if (watched == text1_ && isBoxClick(event))
         text1Click();
     return Form::eventFilter(watched, event);
 }
@@ -98,7 +98,7 @@ bool TrigoWindow::eventFilter(QObject *watched, QEvent *event)
 void TrigoWindow::mouseReleaseEvent(QMouseEvent *event)
 {
     Form::mouseReleaseEvent(event);
-    if (calculators::isBackgroundClick(this, event))
+    if (isBackgroundClick(this, event))
         formClick();
 }
 

@@ -1,11 +1,11 @@
 #include "shell/index_window.h"
 
-#include "formulas/cformulas.h"
 #include "platform/services.h"
 #include "shell/controls.h"
 #include "shell/forms.h"
 #include "shell/language.h"
 #include "shell/launcher.h"
+#include "shell/launcher_hooks.h"
 #include "shell/product.h"
 #include "shell/settings.h"
 #include "shell/startup.h"
@@ -303,7 +303,8 @@ void IndexWindow::command19Click()
 void IndexWindow::command14Click()
 {
     const QString formula = findChild<QLineEdit *>(QStringLiteral("Text2"))->text();
-    findChild<QLineEdit *>(QStringLiteral("Text3"))->setText(formulaBench(formula));
+    const auto &bench = launcherHooks().formulaBench;
+    findChild<QLineEdit *>(QStringLiteral("Text3"))->setText(bench ? bench(formula) : QString());
 }
 
 void IndexWindow::label1Click()

@@ -1,4 +1,5 @@
 #include "shell/launcher.h"
+#include "shell/launcher_hooks.h"
 
 #include "runtime/convert.h"
 #include "runtime/numtext.h"
@@ -131,6 +132,12 @@ QString listaDeCambios()
         "-eliminado apertura multiple -problema en coordenadas -añadida la precarga "
         "-compatibilidad con windowsvistabeta2 -nuevas skins -idioma valenciano "
         "-matriculas actualizables por internet -cambios de divisas del banco central europeo");
+}
+
+LauncherHooks &launcherHooks()
+{
+    static LauncherHooks hooks;
+    return hooks;
 }
 
 } // namespace zafro

@@ -30,7 +30,10 @@ QString FakeDialogs::inputBox(const QString &prompt, const QString &, const QStr
 
 float FakeClock::timer() const
 {
-    return static_cast<float>(current.time().msecsSinceStartOfDay()) / 1000.0f;
+    const float seconds = static_cast<float>(current.time().msecsSinceStartOfDay()) / 1000.0f;
+    const float now = seconds + timerAdvance_;
+    timerAdvance_ += timerStep;
+    return now;
 }
 
 } // namespace zafro::test

@@ -4,6 +4,7 @@
 // answer from queues that the test fills.
 
 #include "platform/services.h"
+#include "runtime/classic_random.h"
 
 #include <QDateTime>
 #include <QList>
@@ -66,6 +67,27 @@ public:
 
     QDateTime current{QDate(2026, 11, 23), QTime(12, 0)};
     qint32 ticks = 0;
+    // Seconds that timer() moves on at each read, so that a busy wait on it ends.
+    float timerStep = 0.0f;
+
+private:
+    mutable float timerAdvance_ = 0.0f;
+};
+
+// The real generator, unless the test queues the values rnd() must return.
+class FakeRandom : public Random {
+public:
+    float rnd() override { return values.isEmpty() ? classic.rnd() : values.dequeue(); }
+    void randomize() override
+    {
+        ++randomizeCalls;
+        classic.randomize();
+    }
+    void randomize(double seed) override { classic.randomize(seed); }
+
+    QQueue<float> values;
+    int randomizeCalls = 0;
+    ClassicRandom classic;
 };
 
 class FakeSound : public Sound {
@@ -90,6 +112,7 @@ struct Fakes {
     FakeDesktop desktop;
     FakeClock clock;
     FakeSound sound;
+    FakeRandom random;
 };
 Fakes &fakes();
 

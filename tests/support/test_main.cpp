@@ -3,7 +3,6 @@
 // each test fresh fakes and a fresh store.
 
 #include "fakes.h"
-#include "runtime/classic_random.h"
 #include "shell/settings.h"
 
 #include <gtest/gtest.h>
@@ -25,7 +24,6 @@ namespace zafro::test {
 
 namespace {
 std::unique_ptr<Fakes> currentFakes;
-std::unique_ptr<ClassicRandom> currentRandom;
 std::unique_ptr<QTemporaryDir> storeDir;
 } // namespace
 
@@ -38,9 +36,8 @@ class FreshWorld : public ::testing::EmptyTestEventListener {
     void OnTestStart(const ::testing::TestInfo &) override
     {
         currentFakes = std::make_unique<Fakes>();
-        currentRandom = std::make_unique<ClassicRandom>();
         services() = Services{&currentFakes->dialogs, &currentFakes->desktop, &currentFakes->clock,
-                              &currentFakes->sound, currentRandom.get()};
+                              &currentFakes->sound, &currentFakes->random};
         storeDir = std::make_unique<QTemporaryDir>();
         useSettingsFile(storeDir->filePath(QStringLiteral("registry.sqlite3")));
     }

@@ -1,5 +1,8 @@
+// The list of every window of the suite: the one place that knows all the tools.
+
 #include "shell/register_forms.h"
 
+#include "formulas/cformulas.h"
 #include "formulas/graphs_forms.h"
 #include "maths/maths_forms.h"
 #include "online/online_forms.h"
@@ -12,6 +15,7 @@
 #include "shell/index_window.h"
 #include "shell/inicio_window.h"
 #include "shell/intro_window.h"
+#include "shell/launcher_hooks.h"
 #include "shell/nuevos_window.h"
 #include "shell/placeholder_window.h"
 
@@ -32,6 +36,7 @@ void registerForms()
     registerGraphForms();
     registerPlatesForms();
     registerOnlineForms();
+    launcherHooks().formulaBench = formulaBench;
     // Windows of the shell whose own behaviour comes later stand in with their name.
     for (const char *name : {"preferencias", "acercade", "limpia"}) {
         const QString title = QLatin1String(name);

@@ -1,16 +1,14 @@
 #pragma once
 
-// What the small calculator windows share in building their controls and in telling
-// a click on their background from a click on a control.
+// Telling a click on a window's background from a click on one of its controls, and
+// a click in a text box, which the tools answer by emptying or filling boxes.
 
 #include "shell/form.h"
 
-#include <QFont>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QWidget>
 
-namespace zafro::calculators {
+namespace zafro {
 
 // A left click that ends on the window's own surface. A press on a label passes up
 // to the window too, but then the label lies under the point.
@@ -28,4 +26,4 @@ inline bool isBoxClick(const QEvent *event)
            static_cast<const QMouseEvent *>(event)->button() == Qt::LeftButton;
 }
 
-} // namespace zafro::calculators
+} // namespace zafro
