@@ -5,8 +5,15 @@
 #include "platform/services.h"
 #include "runtime/runtime.h"
 
+#include <QThread>
+#include <QVarLengthArray>
+
+#include <bitset>
 #include <cmath>
+#include <exception>
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace zafro {
 
@@ -28,6 +35,87 @@ const QString kFiltro = QStringLiteral("0123456789,.ABCDEF");
 const QString kErrorDeDos =
     QStringLiteral("Error: hay que usarla con @ o alguna variable no está definida");
 const QLatin1Char kComilla('"');
+
+// A blank-separated token list of MultInStr, cut once. The earliest token in the text
+// wins, and on a tie the one listed first: so the text is walked once, position by
+// position, trying the tokens in their order; a search of the whole text per token,
+// as the list reads, costs a pass per token, and the tokenizer asks this for every
+// token of a long formula.
+class ListaDeTokens {
+public:
+    explicit ListaDeTokens(const QString &lista) : lista_(lista)
+    {
+        for (qsizetype i = 0; i < lista.size();) {
+            qsizetype blanco = lista.indexOf(u' ', i);
+            if (blanco < 0)
+                blanco = lista.size();
+            // Two blanks in a row make an empty token, which stands for nothing.
+            if (blanco > i) {
+                tokens_.append(lista.mid(i, blanco - i));
+                const char16_t primera = tokens_.back().front().toCaseFolded().unicode();
+                primeras_.append(primera);
+                if (primera < 128)
+                    inicialesAscii_.set(primera);
+                else
+                    inicialesOtras_ = true;
+            }
+            i = blanco + 1;
+        }
+    }
+
+    const QString &lista() const { return lista_; }
+
+    qint32 buscar(QStringView texto, QString &encontrado, qint32 inicio) const
+    {
+        for (qsizetype p = std::max(inicio, 1) - 1; p < texto.size(); ++p) {
+            const char16_t c = texto[p].unicode();
+            char16_t plegada;
+            if (c < 128) {
+                plegada = c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c;
+                if (!inicialesAscii_.test(plegada))
+                    continue;
+            } else {
+                if (!inicialesOtras_)
+                    continue;
+                plegada = QChar(c).toCaseFolded().unicode();
+            }
+            for (qsizetype t = 0; t < tokens_.size(); ++t) {
+                if (primeras_[t] == plegada && texto.mid(p).startsWith(tokens_[t], CI)) {
+                    encontrado = tokens_[t];
+                    return qint32(p + 1);
+                }
+            }
+        }
+        encontrado.clear();
+        return 0;
+    }
+
+private:
+    QString lista_;
+    QVarLengthArray<QString, 48> tokens_;
+    QVarLengthArray<char16_t, 48> primeras_; // case-folded
+    std::bitset<128> inicialesAscii_;
+    bool inicialesOtras_ = false;
+};
+
+// The lists in use are few and fixed; each thread keeps its own cut copies.
+const ListaDeTokens &listaDeTokens(const QString &lista)
+{
+    thread_local std::vector<std::unique_ptr<ListaDeTokens>> cortadas;
+    for (const auto &cortada : cortadas) {
+        if (cortada->lista() == lista)
+            return *cortada;
+    }
+    if (cortadas.size() > 64) // a caller with lists of its own: keep the cache small
+        cortadas.clear();
+    cortadas.push_back(std::make_unique<ListaDeTokens>(lista));
+    return *cortadas.back();
+}
+
+bool soloBlancos(QStringView texto)
+{
+    return std::all_of(texto.begin(), texto.end(), [](QChar c) { return c == u' '; });
+}
 
 // The runtime's Trim: blanks only, not tabs.
 QString vbTrim(const QString &s)
@@ -54,7 +142,8 @@ QChar charAt(const QString &s, qint32 posicion)
 
 bool igual(const QString &a, const QString &b)
 {
-    return QString::compare(a, b, CI) == 0;
+    // Case folding keeps lengths, so most names differ before any folding is done.
+    return a.size() == b.size() && QString::compare(a, b, CI) == 0;
 }
 
 bool esDigito(QChar c)
@@ -64,10 +153,30 @@ bool esDigito(QChar c)
 
 constexpr qint32 kSinMemoria = 7;
 
-void vigilarLargo(const QString &texto)
+// Formula runs on a thread of its own with this much stack, enough for the deepest
+// nesting the guard lets through, sanitizers included. Only the pages it touches are
+// ever committed.
+constexpr uint kPila = 1536u * 1024u * 1024u;
+
+// Runs `trabajo` on a thread with a large stack while the caller waits, handing back
+// its result or what it threw.
+QString enPilaGrande(const std::function<QString()> &trabajo)
 {
-    if (texto.size() > cFormulas::kLargoMaximo)
-        throw RuntimeError(kSinMemoria, QStringLiteral("Memoria insuficiente"));
+    QString resultado;
+    std::exception_ptr fallo;
+    std::unique_ptr<QThread> hilo(QThread::create([&] {
+        try {
+            resultado = trabajo();
+        } catch (...) {
+            fallo = std::current_exception();
+        }
+    }));
+    hilo->setStackSize(kPila);
+    hilo->start();
+    hilo->wait();
+    if (fallo)
+        std::rethrow_exception(fallo);
+    return resultado;
 }
 
 // The guards end a runaway recursion or rewriting; no handler of the evaluator may
@@ -101,21 +210,35 @@ struct Acumulador {
 
 } // namespace
 
+// One level of ParseFormula or Calcular: counted against the depth and charged with
+// the text it works on.
 class cFormulas::Profundidad {
 public:
-    explicit Profundidad(int &profundidad) : profundidad_(profundidad)
+    Profundidad(cFormulas &f, const QString &texto) : f_(f)
     {
-        if (profundidad_ >= kProfundidadMaxima)
+        if (f_.profundidad_ == 0 && !f_.enFormula_)
+            f_.profundidadMaxima_ = kProfundidadBase; // called on its own, not through Formula
+        if (f_.profundidad_ >= f_.profundidadMaxima_)
             throw RuntimeError::outOfStackSpace();
-        ++profundidad_;
+        f_.gastar(64 + texto.size());
+        ++f_.profundidad_;
     }
-    ~Profundidad() { --profundidad_; }
+    ~Profundidad() { --f_.profundidad_; }
     Profundidad(const Profundidad &) = delete;
     Profundidad &operator=(const Profundidad &) = delete;
 
 private:
-    int &profundidad_;
+    cFormulas &f_;
 };
+
+void cFormulas::gastar(qsizetype unidades)
+{
+    if (!enFormula_) // the budget is Formula's; a helper called on its own has the depth guard
+        return;
+    gastado_ += unidades;
+    if (gastado_ > presupuesto_)
+        throw RuntimeError::outOfStackSpace();
+}
 
 cFormulas::cFormulas()
     : operadores_(QStringLiteral(":= < > = >= <= ( ) ^ * / \\ - + $ ! # @ { } [ ] ")),
@@ -279,36 +402,13 @@ QString cFormulas::MTrim(const QString &texto, const QString &comilla) const
 qint32 cFormulas::MultInStr(const QString &texto, const QString &tokens, QString &tokenEncontrado,
                             qint32 inicio) const
 {
-    inicio = std::max(inicio, 1);
-    qint32 mejor = 0;
-    QStringView elegido;
-    const QStringView lista(tokens);
-    for (qsizetype i = 0; i < lista.size();) {
-        qsizetype blanco = lista.indexOf(u' ', i);
-        if (blanco < 0)
-            blanco = lista.size();
-        const QStringView token = lista.mid(i, blanco - i);
-        i = blanco + 1;
-        // Two blanks in a row make an empty token, which stands for nothing.
-        if (token.isEmpty())
-            continue;
-        // Only a nearer occurrence counts, so the search can stop short of the best one.
-        const QStringView donde =
-            mejor == 0 ? QStringView(texto) : QStringView(texto).left(mejor - 2 + token.size());
-        const bool letras =
-            std::any_of(token.begin(), token.end(), [](QChar c) { return c.isLetter(); });
-        const qsizetype p = donde.indexOf(token, inicio - 1, letras ? CI : Qt::CaseSensitive);
-        if (p < 0)
-            continue;
-        if (mejor == 0 || p + 1 < mejor) {
-            mejor = qint32(p + 1);
-            elegido = token;
-        }
-        if (mejor == inicio)
-            break;
-    }
-    tokenEncontrado = elegido.toString();
-    return mejor;
+    return multInStr(texto, tokens, tokenEncontrado, inicio);
+}
+
+qint32 cFormulas::multInStr(QStringView texto, const QString &tokens, QString &tokenEncontrado,
+                            qint32 inicio) const
+{
+    return listaDeTokens(tokens).buscar(texto, tokenEncontrado, inicio);
 }
 
 qint32 cFormulas::RInStr(qint32 inicio, const QString &texto, const QString &buscado) const
@@ -396,17 +496,11 @@ QString cFormulas::ConvDecimal(const QString &numero, QString &decimal, QString 
 QString cFormulas::ObtenerToken(QString &texto, QString &separador) const
 {
     separador.clear();
-    if (vbTrim(texto).isEmpty()) {
+    if (soloBlancos(texto)) {
         texto.clear();
         return {};
     }
-    QString encontrado;
-    const qint32 posicion = MultInStr(texto, separadores_, encontrado);
-    if (posicion == 0) {
-        QString token = texto;
-        texto.clear();
-        return token;
-    }
+    // A quote is itself a separator, so with one in the text a separator is always found.
     if (const qsizetype abre = texto.indexOf(kComilla); abre >= 0) {
         const qsizetype cierra = texto.indexOf(kComilla, abre + 1);
         QString token;
@@ -419,17 +513,34 @@ QString cFormulas::ObtenerToken(QString &texto, QString &separador) const
         }
         return token;
     }
-    QString token = texto.left(posicion - 1);
-    texto = texto.mid(posicion - 1 + encontrado.size());
+    QString token;
+    texto.remove(0, tokenSinComillas(texto, token, separador));
+    return token;
+}
+
+// ObtenerToken on a text that holds no quote and is not blank: the token and separator
+// at its head, and how much of the text they take. ParseFormula walks a long formula
+// with it without copying the rest at each token.
+qsizetype cFormulas::tokenSinComillas(QStringView texto, QString &token, QString &separador) const
+{
+    separador.clear();
+    QString encontrado;
+    const qint32 posicion = multInStr(texto, separadores_, encontrado);
+    if (posicion == 0) {
+        token = texto.toString();
+        return texto.size();
+    }
+    token = texto.left(posicion - 1).toString();
+    qsizetype usado = posicion - 1 + encontrado.size();
     separador = encontrado;
     // "1E+20" is one token; "1.5E+20" is not, as "." is no digit.
     if (token.endsWith(u'E', CI) &&
         std::all_of(token.cbegin(), token.cend() - 1, [](QChar c) { return esDigito(c); })) {
-        token += separador + texto.left(2);
-        texto = texto.mid(2);
+        token += separador + texto.mid(usado, 2).toString();
+        usado = std::min(usado + 2, texto.size());
         separador.clear();
     }
-    return token;
+    return usado;
 }
 
 void cFormulas::LeerNumero(QString &texto, QString &numero) const
@@ -551,31 +662,45 @@ QString cFormulas::AsignarVariables(const QString &entrada, const QString &comil
         }
         if (texto.isEmpty())
             break;
+        gastar(16 + texto.size());
     }
     return prefijo + texto;
 }
 
 QString cFormulas::ParseFormula(QString expresion)
 {
-    Profundidad guarda(profundidad_);
-    vigilarLargo(expresion);
+    Profundidad guarda(*this, expresion);
     QString resultado;
+    // What the walk has taken of the expression so far; it is cut off only where the
+    // text must change (a quoted stretch) or is handed on (a call).
+    qsizetype desde = 0;
+    qsizetype ultimaComilla = expresion.lastIndexOf(kComilla);
     do {
         QString separador;
-        QString token = ObtenerToken(expresion, separador);
+        QString token;
+        if (ultimaComilla >= desde) {
+            expresion.remove(0, desde);
+            desde = 0;
+            token = ObtenerToken(expresion, separador);
+            ultimaComilla = expresion.lastIndexOf(kComilla);
+        } else if (soloBlancos(QStringView(expresion).mid(desde))) {
+            desde = expresion.size();
+        } else {
+            desde += tokenSinComillas(QStringView(expresion).mid(desde), token, separador);
+        }
         if (!token.isEmpty() && !IsNumeric(token) && IsFuncOrVar(token)) {
             if (const QString valor = VariableVal(token); !valor.isEmpty())
                 token = Calcular(ParseFormula(valor));
             if (IsFunction(token) > 0) {
+                expresion.remove(0, desde);
                 resultado += llamada(token, separador, expresion, resultado);
                 // Everything behind the call has been evaluated with it.
-                expresion.clear();
-                break;
+                return resultado;
             }
         }
         resultado += token + separador;
-        vigilarLargo(resultado);
-    } while (!expresion.isEmpty());
+        gastar(16 + token.size());
+    } while (desde < expresion.size());
     return resultado;
 }
 
@@ -615,8 +740,10 @@ QString cFormulas::ConvertirParametros(QString formula, QString parametros, QStr
             argumento += u')';
         const QString sustituto = u'(' + argumento + u')';
         // The only stop to a formula that grows with each pass.
-        while (!parametros.isEmpty() && formula.contains(parametros, CI) && formula.size() < 3072)
+        while (!parametros.isEmpty() && formula.contains(parametros, CI) && formula.size() < 3072) {
             formula.replace(parametros, sustituto, CI);
+            gastar(16); // bounded by the 3072 stop itself
+        }
         return formula;
     }
 
@@ -650,7 +777,7 @@ QString cFormulas::ConvertirParametros(QString formula, QString parametros, QStr
         }
         if (!nombre.isEmpty())
             formula.replace(nombre, u'(' + argumento + u')', CI);
-        vigilarLargo(formula);
+        gastar(16);
     }
     return formula;
 }
@@ -750,8 +877,12 @@ QString cFormulas::FunctionVal(const QString &entrada)
 
 // ---- evaluation ---------------------------------------------------------------------
 
-QString cFormulas::ponerParentesis(QString w) const
+QString cFormulas::ponerParentesis(QString w)
 {
+    // The "*-" rewriting can repeat text at every pass without end: a text that keeps
+    // growing far past where it started is the original's out-of-memory end.
+    const qsizetype inicial = w.size();
+    qsizetype anterior = inicial;
     const auto delimitador = [](QChar c) { return kDelimitadores.contains(c); };
     // kept: the limit is set once and only moves left, across all the operators
     qint32 limite = qint32(w.size());
@@ -784,7 +915,10 @@ QString cFormulas::ponerParentesis(QString w) const
                         w = w.left(izquierda) + u'(' + tramo + u')' + mid(w, derecha);
                     }
                 }
-                vigilarLargo(w);
+                if (w.size() > anterior && w.size() > 4 * inicial + 256)
+                    throw RuntimeError(kSinMemoria, QStringLiteral("Memoria insuficiente"));
+                anterior = w.size();
+                gastar(16 + w.size());
             }
             limite = RInStr(limite, w, op) - 1;
         }
@@ -794,8 +928,7 @@ QString cFormulas::ponerParentesis(QString w) const
 
 QString cFormulas::Calcular(QString expresion)
 {
-    Profundidad guarda(profundidad_);
-    vigilarLargo(expresion);
+    Profundidad guarda(*this, expresion);
     expresion = vbTrim(expresion);
     QString encontrado;
     const bool altos = MultInStr(expresion, kOperadoresAltos, encontrado) > 0;
@@ -833,7 +966,7 @@ QString cFormulas::Calcular(QString expresion)
         }
         expresion = expresion.left(abre) + Calcular(expresion.mid(abre + 1, cierra - abre - 1)) +
                     expresion.mid(cierra + 1);
-        vigilarLargo(expresion);
+        gastar(16 + expresion.size());
     }
 
     if (MultInStr(expresion, kOperadoresCadena, encontrado) == 0) {
@@ -867,6 +1000,7 @@ QString cFormulas::cadenaPlana(QString expresion)
     std::optional<Acumulador> acumulador;
     QStringView resto(expresion);
     for (;;) {
+        gastar(16);
         if (resto.isEmpty())
             return acumulador ? acumulador->texto() : QString();
         if (izquierda.isEmpty())
@@ -914,6 +1048,22 @@ QString cFormulas::cadenaPlana(QString expresion)
 
 QString cFormulas::Formula(const QString &expresion)
 {
+    return enPilaGrande([&] { return formulaEnPila(expresion); });
+}
+
+QString cFormulas::formulaEnPila(const QString &expresion)
+{
+    const qint64 largo = expresion.size();
+    profundidadMaxima_ =
+        int(std::min<qint64>(kProfundidadTope, kProfundidadBase + kProfundidadPorCaracter * largo));
+    presupuesto_ = kTrabajoBase + kTrabajoPorCaracterCuadrado * largo * largo;
+    gastado_ = 0;
+    enFormula_ = true;
+    struct Sale {
+        bool &enFormula;
+        ~Sale() { enFormula = false; }
+    } sale{enFormula_};
+
     const bool notacion = notacionCientifica_;
     struct Restaura {
         bool &destino;

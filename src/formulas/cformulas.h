@@ -19,8 +19,8 @@
 // Values are text everywhere; names compare without regard to case and positions are
 // 1-based. Numeric faults it does not catch (the square root of a negative, an operand
 // beyond the decimal type, a strict conversion of text that is no number) are
-// RuntimeErrors for the caller, and so are a recursion without end (error 28) and a
-// text that grows without end (error 7).
+// RuntimeErrors for the caller, and so are a recursion without end or work past the
+// budget (error 28) and a rewriting whose text grows without end (error 7).
 
 #include <QString>
 #include <QStringList>
@@ -71,12 +71,24 @@ public:
     QString Dec2Bin(qint32 valor, qint32 bits) const;
     qint32 Bin2Dec(const QString &texto) const;
 
-    // How deep ParseFormula and Calcular may call each other before the evaluator gives
-    // up with error 28, as the original ran out of stack on a value that names itself.
-    static constexpr int kProfundidadMaxima = 200;
-    // How long a text may grow while it is rewritten before the evaluator gives up with
-    // error 7, as the original ran out of memory on a rewriting that repeats text.
-    static constexpr int kLargoMaximo = 4096;
+    // Guards against work that never ends. The original runs out of stack on a value
+    // that names itself and out of memory on a rewriting that repeats text; both must
+    // end here too, as run-time errors 28 and 7, and only on work that runs away.
+    // How deep ParseFormula and Calcular may nest within one Formula: a base, plus
+    // room for each character, since a finishing formula nests no deeper than its
+    // text lets it. Formula runs on a stack sized for the cap.
+    static constexpr int kProfundidadBase = 2000;
+    static constexpr int kProfundidadPorCaracter = 8;
+    static constexpr int kProfundidadTope = 100000;
+    // How much work one Formula may do, in units of about a character touched. A
+    // formula whose work grows exponentially while its text stays short ("a=1:b=a*a*a:
+    // c=b*b*b:...") would otherwise run for ages; the original set no bound at all.
+    // The budget lies far above any practical formula and grows with the square of the
+    // length, as the rewriting of a long text may do.
+    static constexpr qint64 kTrabajoBase = 1'000'000;
+    static constexpr qint64 kTrabajoPorCaracterCuadrado = 8;
+    // The work the last Formula did, in the budget's units.
+    qint64 trabajoRealizado() const { return gastado_; }
 
 private:
     struct Variable {
@@ -90,6 +102,9 @@ private:
     };
 
     QString ObtenerToken(QString &texto, QString &separador) const;
+    qsizetype tokenSinComillas(QStringView texto, QString &token, QString &separador) const;
+    qint32 multInStr(QStringView texto, const QString &tokens, QString &tokenEncontrado,
+                     qint32 inicio = 1) const;
     void LeerNumero(QString &texto, QString &numero) const;
     qsizetype leerNumero(QStringView texto, QString &numero) const;
     QString ExtraerParentesis(QString &texto) const;
@@ -98,11 +113,14 @@ private:
     // that follows it, evaluated; `expresion` loses its argument list.
     QString llamada(const QString &nombre, QString separador, QString &expresion,
                     QString &resultado);
-    QString ponerParentesis(QString expresion) const;
+    QString ponerParentesis(QString expresion);
     QString cadenaPlana(QString expresion);
     QString primitiva(const QString &token, const QString &valor) const;
 
     class Profundidad;
+    QString formulaEnPila(const QString &expresion);
+    // Charges the work of one step; error 28 once the budget is spent.
+    void gastar(qsizetype unidades);
 
     qint32 funcionesIniciales_ = 0;
     bool resultadoFuncion_ = false;
@@ -114,6 +132,10 @@ private:
     QVector<Funcion> funciones_;  // index 0 stays empty
     QString ultimaExpresion_;
     int profundidad_ = 0;
+    int profundidadMaxima_ = kProfundidadBase;
+    qint64 presupuesto_ = kTrabajoBase;
+    qint64 gastado_ = 0;
+    bool enFormula_ = false;
 };
 
 // The launcher's hidden bench: a fresh evaluator per call, as each click creates one.

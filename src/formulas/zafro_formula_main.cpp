@@ -49,18 +49,22 @@ int main(int argc, char **argv)
         return bench(argc > 2 ? std::max(1, std::atoi(argv[2])) : 10000);
 
     const bool keep = argc > 1 && std::strcmp(argv[1], "--keep") == 0;
+    // "--work" adds the work each formula did, in the units of the evaluator's budget.
+    const bool work = argc > 1 && std::strcmp(argv[argc - 1], "--work") == 0;
     zafro::cFormulas kept;
     std::string line;
     while (std::getline(std::cin, line)) {
+        zafro::cFormulas fresh;
+        zafro::cFormulas &formulas = keep ? kept : fresh;
         try {
-            zafro::cFormulas fresh;
-            zafro::cFormulas &formulas = keep ? kept : fresh;
             const QString result = formulas.Formula(QString::fromStdString(line));
-            std::printf("%s\n", result.toUtf8().constData());
+            std::printf("%s", result.toUtf8().constData());
         } catch (const zafro::RuntimeError &error) {
-            std::printf("%s\n",
-                        zafro::runtimeErrorMessage(error).simplified().toUtf8().constData());
+            std::printf("%s", zafro::runtimeErrorMessage(error).simplified().toUtf8().constData());
         }
+        if (work)
+            std::printf("\t[%lld]", static_cast<long long>(formulas.trabajoRealizado()));
+        std::printf("\n");
         std::fflush(stdout);
     }
     return 0;

@@ -240,25 +240,63 @@ TEST(FormulaFaults, AValueThatNamesItselfRunsOutOfStack)
     }
 }
 
-TEST(FormulaFaults, ARewritingThatRepeatsTextRunsOutOfMemory)
+TEST(FormulaFaults, RunawayWorkEndsInItsRunTimeError)
 {
     // kept: the "*-" rewriting copies the text from the "*-" on, and each bracket it
     // makes holds the same pattern again, longer
-    cFormulas formulas;
-    EXPECT_EQ(errorNumber([&] { formulas.Formula(QStringLiteral("2*-4+1*3/5")); }), 7);
-    EXPECT_EQ(errorNumber([&] { formulas.Formula(QString(cFormulas::kLargoMaximo + 1, u'1')); }),
-              7);
-    EXPECT_EQ(errorNumber([&] { formulas.Formula(QString(cFormulas::kLargoMaximo, u'1')); }), 0);
+    const struct {
+        const char *expresion;
+        int error;
+    } filas[] = {
+        {"2*-4+1*3/5", 7},
+        // work that grows exponentially while the text stays short
+        {"a=1:b=a*a*a:c=b*b*b:d=c*c*c:e=d*d*d:f=e*e*e:g=f*f*f:h=g*g*g:i=h*h*h:j=i*i*i:j", 28},
+        // found by fuzzing: the one-parameter expansion stops at 3072 characters, and
+        // every Rnd in it is a call that evaluates all behind it
+        {"Int(+Rnd1Num6)", 28},
+    };
+    for (const auto &fila : filas) {
+        SCOPED_TRACE(fila.expresion);
+        cFormulas formulas;
+        EXPECT_EQ(errorNumber([&] { formulas.Formula(QString::fromUtf8(fila.expresion)); }),
+                  fila.error);
+    }
 }
 
-TEST(FormulaFaults, LongButFiniteChainsStayWithinTheGuard)
+// Long formulas that end under the rules finish, however long or deep they are.
+TEST(FormulaFaults, LongAndDeepFormulasFinish)
 {
-    // Each call evaluates everything behind it, one level deeper per call.
-    QString expresion = QStringLiteral("1");
-    for (int i = 0; i < 100; ++i)
-        expresion += QStringLiteral("*Sqr(1)");
-    cFormulas formulas;
-    EXPECT_EQ(formulas.Formula(expresion), QStringLiteral("1"));
+    const auto repetir = [](const QString &pieza, int veces) {
+        QString texto;
+        for (int i = 0; i < veces; ++i)
+            texto += pieza;
+        return texto;
+    };
+    const auto suma = [&](int terminos) {
+        return QStringLiteral("1") + repetir("+1", terminos - 1);
+    };
+    QString cadena = QStringLiteral("v0=7");
+    for (int i = 1; i < 1000; ++i)
+        cadena += QStringLiteral(":v%1=v%2").arg(i).arg(i - 1);
+    cadena += QStringLiteral(":v999");
+    const struct {
+        const char *nombre;
+        QString expresion;
+        QString resultado;
+    } filas[] = {
+        {"Sum1000", suma(1000), QStringLiteral("1000")},
+        {"Sum5000", suma(5000), QStringLiteral("5000")},
+        {"ChainOf1000Variables", cadena, QStringLiteral("7")},
+        {"Brackets1000Deep", repetir("(", 1000) + "42" + repetir(")", 1000), QStringLiteral("42")},
+        {"Calls1000Deep", repetir("Abs(", 1000) + "-3" + repetir(")", 1000), QStringLiteral("3")},
+        // each call evaluates everything behind it, one level deeper per call
+        {"CallsInAChain", QStringLiteral("1") + repetir("*Sqr(1)", 100), QStringLiteral("1")},
+    };
+    for (const auto &fila : filas) {
+        SCOPED_TRACE(fila.nombre);
+        cFormulas formulas;
+        EXPECT_EQ(formulas.Formula(fila.expresion), fila.resultado);
+    }
 }
 
 TEST(FormulaFaults, TwoArgumentPrimitivesSwallowTheirErrors)
