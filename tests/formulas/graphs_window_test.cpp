@@ -8,6 +8,8 @@
 #include "shell/language.h"
 #include "shell/skins.h"
 
+#include "window_test.h"
+
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
@@ -48,7 +50,7 @@ Trazo trazo(const DrawingSurface *surface)
     return t;
 }
 
-class GraphWindowTest : public ::testing::Test {
+class GraphWindowTest : public test::WindowTest {
 protected:
     void SetUp() override
     {
@@ -58,24 +60,7 @@ protected:
         CargarEspanol();
     }
 
-    QWidget *open(const char *name)
-    {
-        window = forms().show(QLatin1String(name));
-        EXPECT_NE(window, nullptr) << name;
-        return window;
-    }
-    template <typename T = QWidget> T *get(const char *name) const
-    {
-        T *found = window->findChild<T *>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
     QLineEdit *box(const char *name) const { return get<QLineEdit>(name); }
-    void type(const char *name, const QString &text)
-    {
-        box(name)->clear();
-        QTest::keyClicks(box(name), text);
-    }
     void choose(const QString &entry)
     {
         auto *combo = get<QComboBox>("Combo1");
@@ -83,7 +68,6 @@ protected:
         ASSERT_GE(index, 0) << entry.toStdString();
         combo->setCurrentIndex(index);
     }
-    void press(const char *name) { QTest::mouseClick(get(name), Qt::LeftButton); }
     void enter(const char *name) { QTest::keyClick(box(name), Qt::Key_Return); }
 
     Coordenadas2Window *grafica() const
@@ -100,12 +84,10 @@ protected:
         type("a", QStringLiteral("0"));
         type("b", QStringLiteral("0"));
         type("c", QStringLiteral("9"));
-        press("Command1");
+        click("Command1");
         ASSERT_NE(grafica(), nullptr);
         grafica()->formActivate();
     }
-
-    QWidget *window = nullptr;
 };
 
 // ---- coordenadas1 ----
@@ -138,7 +120,7 @@ TEST_F(GraphWindowTest, InputWindowStartsWithNoEquationAndAGuardedDensity)
     EXPECT_TRUE(box("den")->isReadOnly());
     EXPECT_EQ(box("den")->text(), QStringLiteral("0.01"));
 
-    press("Command2");
+    click("Command2");
     EXPECT_EQ(forms().find(QStringLiteral("coordenadas1")), nullptr);
 }
 
@@ -174,7 +156,7 @@ TEST_F(GraphWindowTest, Command1RefusesTheFormsThatCannotBeMended)
     open("coordenadas1");
     choose(QStringLiteral("Hipérbola"));
     type("b", QStringLiteral("0"));
-    press("Command1");
+    click("Command1");
     ASSERT_EQ(fakes().dialogs.messages.size(), 1);
     EXPECT_EQ(fakes().dialogs.messages[0].text, QStringLiteral("'a' o 'b' no pueden valer 0!"));
     EXPECT_EQ(fakes().dialogs.messages[0].title, QStringLiteral("Error"));
@@ -182,7 +164,7 @@ TEST_F(GraphWindowTest, Command1RefusesTheFormsThatCannotBeMended)
 
     choose(QStringLiteral("Elipse"));
     type("e", QStringLiteral("x"));
-    press("Command1");
+    click("Command1");
     ASSERT_EQ(fakes().dialogs.messages.size(), 2);
     EXPECT_EQ(fakes().dialogs.messages[1].text, QStringLiteral("'e' no puede valer 0!"));
     EXPECT_EQ(grafica(), nullptr);
@@ -191,7 +173,7 @@ TEST_F(GraphWindowTest, Command1RefusesTheFormsThatCannotBeMended)
     choose(QStringLiteral("Parábola vertical"));
     type("a", QStringLiteral("2"));
     type("b", QStringLiteral("0"));
-    press("Command1");
+    click("Command1");
     EXPECT_EQ(fakes().dialogs.messages.size(), 2);
     ASSERT_NE(grafica(), nullptr);
     EXPECT_EQ(coordenadas().ecuacion, ParabolaVertical);
@@ -233,7 +215,7 @@ TEST_F(GraphWindowTest, GraphWindowDrawsWhenActivated)
 {
     open("coordenadas1");
     choose(QStringLiteral("Circunferencia"));
-    press("Command1");
+    click("Command1");
     Coordenadas2Window *g = grafica();
     ASSERT_NE(g, nullptr);
     EXPECT_EQ(g->windowTitle(), QStringLiteral("He aquí la gráfica"));
@@ -298,7 +280,7 @@ TEST_F(GraphWindowTest, ActivationDrawsOverWhatIsThereAndKeepsItWhenCovered)
     type("a", QStringLiteral("0"));
     type("b", QStringLiteral("1"));
     type("c", QStringLiteral("8"));
-    press("Command1");
+    click("Command1");
     g->formActivate();
     const Trazo ambos = trazo(g->surface());
     EXPECT_GT(ambos.puntos, circulo.puntos);
@@ -339,7 +321,7 @@ TEST_F(GraphWindowTest, AnEndlessDensityKeepsTheWindowAliveUntilItCloses)
             escalaVolvio = true;
             QTimer::singleShot(30, [] { forms().unload(QStringLiteral("coordenadas2")); });
         });
-        press("Command1");
+        click("Command1");
         if (Coordenadas2Window *g = grafica())
             g->formActivate();
         EXPECT_TRUE(segundaVolvio) << densidad;
@@ -388,10 +370,10 @@ TEST_F(GraphWindowTest, PolarInputWindow)
 
     // An unknown text keeps the curve there was.
     combo->lineEdit()->setText(QStringLiteral("Cos(z)"));
-    press("Command2");
+    click("Command2");
     EXPECT_EQ(polaress().ecuacion, 1);
     combo->lineEdit()->setText(QStringLiteral("cos(z)"));
-    press("Command2");
+    click("Command2");
     EXPECT_EQ(polaress().ecuacion, 3);
 }
 
@@ -417,7 +399,7 @@ TEST_F(GraphWindowTest, PolarGraphHasAFixedScaleOfMinus4To4)
     open("polares1");
     get<QComboBox>("Combo1")->lineEdit()->setText(QStringLiteral("cos(z)"));
     type("coseno", QStringLiteral("1"));
-    press("Command2");
+    click("Command2");
     Polares2Window *p = polar();
     ASSERT_NE(p, nullptr);
     EXPECT_EQ(p->windowTitle(), QStringLiteral("La gráfica polar:"));
@@ -432,7 +414,7 @@ TEST_F(GraphWindowTest, PolarGraphHasAFixedScaleOfMinus4To4)
     // The spiral runs out of the rectangle: only its first turns show, on top.
     get<QComboBox>("Combo1")->lineEdit()->setText(QStringLiteral("z/c"));
     type("constante", QStringLiteral("1"));
-    press("Command2");
+    click("Command2");
     p->formActivate();
     const Trazo espiral = trazo(p->surface());
     EXPECT_EQ(espiral.izquierda, 0);
@@ -458,7 +440,7 @@ TEST_F(GraphWindowTest, DISABLED_Pictures)
     choose(QStringLiteral("Seno"));
     type("a", QStringLiteral("1"));
     type("b", QStringLiteral("0.1"));
-    press("Command1");
+    click("Command1");
     grafica()->formActivate();
     save(grafica(), "coordenadas2-seno.png");
 
@@ -476,7 +458,7 @@ TEST_F(GraphWindowTest, DISABLED_Pictures)
         type("constante", QLatin1String(row.c));
         type("seno", QLatin1String(row.s));
         type("coseno", QLatin1String(row.k));
-        press("Command2");
+        click("Command2");
         polar()->formActivate();
         save(polar(), row.file);
     }

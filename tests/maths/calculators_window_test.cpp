@@ -12,6 +12,7 @@
 #include "shell/settings.h"
 #include "shell/skin_sample.h"
 #include "shell/skins.h"
+#include "window_test.h"
 
 #include <gtest/gtest.h>
 
@@ -30,33 +31,14 @@ namespace {
 
 using test::fakes;
 
-void registerCalculators()
-{
-    forms().registerForm(QStringLiteral("calculadora"), [] { return new CalculadoraWindow; });
-    forms().registerForm(QStringLiteral("trigo"), [] { return new TrigoWindow; });
-    forms().registerForm(QStringLiteral("radian"), [] { return new RadianWindow; });
-    forms().registerForm(QStringLiteral("temperatura"), [] { return new TemperaturaWindow; });
-    forms().registerForm(QStringLiteral("bisiesto"), [] { return new BisiestoWindow; });
-}
-
 const char *const kCalculators[] = {"calculadora", "trigo", "radian", "temperatura", "bisiesto"};
 
-// A window of this file under test: shown through the registry, with its controls
-// found by their names.
-class CalculatorWindowTest : public ::testing::Test {
+class CalculatorWindowTest : public test::WindowTest {
 protected:
     void SetUp() override
     {
-        registerCalculators();
         guardarSkin(1);
         CargarEspanol();
-    }
-
-    QWidget *open(const char *name)
-    {
-        window = forms().show(QLatin1String(name));
-        EXPECT_NE(window, nullptr) << name;
-        return window;
     }
 
     void reopen(const char *name, void (*loader)())
@@ -66,28 +48,6 @@ protected:
         open(name);
     }
 
-    template <typename T = QWidget> T *get(const char *name) const
-    {
-        T *found = window->findChild<T *>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
-    QString textOf(const char *name) const
-    {
-        if (auto *box = window->findChild<QLineEdit *>(QLatin1String(name)))
-            return box->text();
-        if (auto *button = window->findChild<QPushButton *>(QLatin1String(name)))
-            return button->text();
-        return get<QLabel>(name)->text();
-    }
-    void type(const char *box, const QString &text)
-    {
-        get<QLineEdit>(box)->clear();
-        QTest::keyClicks(get<QLineEdit>(box), text);
-    }
-    void click(const char *name) { QTest::mouseClick(get(name), Qt::LeftButton); }
-    // A click on the window where no control lies.
-    void clickBackground() { QTest::mouseClick(window, Qt::LeftButton, {}, QPoint(3, 3)); }
     // A typical input, so that results show as well as captions.
     void typeSample(const char *name)
     {
@@ -110,8 +70,6 @@ protected:
         }
     }
     int messageCount() const { return int(fakes().dialogs.messages.size()); }
-
-    QWidget *window = nullptr;
 };
 
 // --- The frame, the same in the five windows ---------------------------------------

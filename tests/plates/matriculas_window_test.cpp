@@ -6,6 +6,8 @@
 #include "shell/settings.h"
 #include "shell/skins.h"
 
+#include "window_test.h"
+
 #include <gtest/gtest.h>
 
 #include <QAction>
@@ -22,7 +24,7 @@ using test::fakes;
 
 const QString kSub = QStringLiteral("Matriculas");
 
-class MatriculasTest : public ::testing::Test {
+class MatriculasTest : public test::WindowTest {
 protected:
     void SetUp() override
     {
@@ -34,25 +36,25 @@ protected:
     // As the launcher opens it: "1" in ls before the load.
     MatriculasWindow *openFromIndex()
     {
-        return open([](QWidget *w) { w->findChild<QLabel *>(QStringLiteral("ls"))->setText("1"); });
+        return openWith(
+            [](QWidget *w) { w->findChild<QLabel *>(QStringLiteral("ls"))->setText("1"); });
     }
-    MatriculasWindow *openAlone() { return open({}); }
-    MatriculasWindow *open(const std::function<void(QWidget *)> &prepare)
+    MatriculasWindow *openAlone() { return openWith({}); }
+    MatriculasWindow *openWith(const std::function<void(QWidget *)> &prepare)
     {
         // Watched from before the load, so that an update at opening counts.
         const auto watch = [this, prepare](QWidget *w) {
             auto *plates = qobject_cast<MatriculasWindow *>(w);
             ASSERT_NE(plates, nullptr);
             window = plates;
+            this->plates = plates;
             QObject::connect(plates, &MatriculasWindow::actualizacionIniciada,
                              [this] { onUpdate(); });
             if (prepare)
                 prepare(w);
         };
-        window = qobject_cast<MatriculasWindow *>(
-            forms().show(QStringLiteral("matriculasselect"), watch));
-        EXPECT_NE(window, nullptr);
-        return window;
+        open("matriculasselect", watch);
+        return plates;
     }
     void onUpdate()
     {
@@ -60,20 +62,7 @@ protected:
         labelAtUpdate = text("aLabel4");
     }
 
-    template <typename T = QWidget> T *get(const char *name) const
-    {
-        T *found = window->findChild<T *>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
-    QString text(const char *name) const
-    {
-        if (auto *box = window->findChild<QLineEdit *>(QLatin1String(name)))
-            return box->text();
-        if (auto *button = window->findChild<QPushButton *>(QLatin1String(name)))
-            return button->text();
-        return get<QLabel>(name)->text();
-    }
+    QString text(const char *name) const { return textOf(name); }
     void calculate(const QString &digits, const QString &letters)
     {
         get<QLineEdit>("aText1")->setText(digits);
@@ -82,17 +71,9 @@ protected:
             get<QLineEdit>(boxes[i])->setText(letters.mid(i, 1));
         click("aCommand1");
     }
-    void click(const char *name) { QTest::mouseClick(get(name), Qt::LeftButton); }
     void trigger(const char *name) { get<QAction>(name)->trigger(); }
-    QStringList messageTexts() const
-    {
-        QStringList texts;
-        for (const auto &m : fakes().dialogs.messages)
-            texts << m.text;
-        return texts;
-    }
 
-    MatriculasWindow *window = nullptr;
+    MatriculasWindow *plates = nullptr;
     int updates = 0;
     QString labelAtUpdate;
 };
@@ -108,7 +89,7 @@ TEST_F(MatriculasTest, UnderTheLauncherItKeepsTheSuitesLanguageAndHidesTheMenu)
     EXPECT_FALSE(get<QAction>("menuidioma")->isVisible());
     EXPECT_EQ(window->windowTitle(), QStringLiteral("Zafro Matrículas - Plate Dater"));
     EXPECT_EQ(text("Label1"), texto(slot::SeleccioneTipoMatricula));
-    EXPECT_EQ(window->paneActual(), QStringLiteral("0"));
+    EXPECT_EQ(plates->paneActual(), QStringLiteral("0"));
     for (const char *pane : {"Picture2", "Picture4", "Picture5"})
         EXPECT_FALSE(get(pane)->isVisible()) << pane;
     EXPECT_EQ(updates, 0);
@@ -239,11 +220,11 @@ TEST_F(MatriculasTest, TheDotsRunAfterTheSentence)
     EXPECT_TRUE(dots->text().isEmpty());
     const char *steps[] = {".", "..", "...", "", "."};
     for (const char *step : steps) {
-        window->timer2Timer();
+        plates->timer2Timer();
         EXPECT_EQ(dots->text(), QLatin1String(step));
     }
     dots->setText(QStringLiteral("x"));
-    window->timer2Timer();
+    plates->timer2Timer();
     EXPECT_EQ(dots->text(), QStringLiteral("."));
 }
 
@@ -265,11 +246,11 @@ TEST_F(MatriculasTest, EachButtonShowsItsPaneAlone)
         for (const char *pane : {"Picture2", "Picture4", "Picture5"})
             EXPECT_EQ(get(pane)->isVisible(), QLatin1String(pane) == row.pane)
                 << row.button << " " << pane;
-        EXPECT_EQ(window->paneActual(), QLatin1String(row.paneActual)) << row.button;
+        EXPECT_EQ(plates->paneActual(), QLatin1String(row.paneActual)) << row.button;
     }
     trigger("menumat1");
     EXPECT_TRUE(get("Picture4")->isVisible());
-    EXPECT_EQ(window->indice(), QStringLiteral("-1"));
+    EXPECT_EQ(plates->indice(), QStringLiteral("-1"));
     trigger("menumat3");
     EXPECT_TRUE(get("Picture5")->isVisible());
 }
