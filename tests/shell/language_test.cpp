@@ -233,21 +233,6 @@ TEST_F(LanguageTable, SlotsGoInNumberOrderAndTheSpanishOnlyNoticeLast)
     }
 }
 
-TEST_F(LanguageTable, EnglishLeavesSlot93AsItWas)
-{
-    const auto ingles = record(kIngles);
-    EXPECT_TRUE(
-        std::none_of(ingles.begin(), ingles.end(), [](const auto &a) { return a.first == 93; }));
-    EXPECT_TRUE(texto(93).isEmpty()) << "after a fresh start in English";
-    CargarEspanol();
-    CargarIngles();
-    EXPECT_EQ(texto(93), q("Zafro Skin v 2.8:  Haz tu configuración de colores"));
-    CargarValenciano();
-    const QString valenciano = texto(93);
-    CargarIngles();
-    EXPECT_EQ(texto(93), valenciano);
-}
-
 TEST_F(LanguageTable, ASecondLoaderLeavesNothingOfTheFormerButEnglishSlot93)
 {
     for (const Language &to : kLanguages) {
@@ -274,12 +259,6 @@ TEST(LanguageTableData, CompiledTableIsWholeAndNamed)
     const LanguageTableData data = parseLanguageTable(compiledLanguageTable());
     EXPECT_EQ(data.errors, QStringList());
     EXPECT_EQ(checkLanguageTable(data, kLanguageSlots), QStringList());
-    EXPECT_EQ(slot::Cerrar, 33);
-    EXPECT_EQ(slot::AcercaDe, 34);
-    EXPECT_EQ(slot::HasEstadoAqui, 43);
-    EXPECT_EQ(slot::Veces, 44);
-    EXPECT_EQ(slot::SoloEspanol, 403);
-    EXPECT_EQ(slot::AArabes, 476);
 }
 
 TEST(LanguageTableData, ReadsRowsEscapesAndMarkers)
