@@ -10,8 +10,10 @@
 
 #include <bitset>
 #include <cmath>
+#include <condition_variable>
 #include <exception>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <vector>
 
@@ -153,31 +155,86 @@ bool esDigito(QChar c)
 
 constexpr qint32 kSinMemoria = 7;
 
-// Formula runs on a thread of its own with this much stack, enough for the deepest
+// Formula runs on one thread kept for the purpose, with a stack enough for the deepest
 // nesting the guard lets through, sanitizers included. Only the pages it touches are
-// ever committed.
+// ever committed. The thread is made once: making one per call costs more than most
+// formulas.
 constexpr uint kPila = 1536u * 1024u * 1024u;
 
-// Runs `trabajo` on a thread with a large stack while the caller waits, handing back
-// its result or what it threw.
-QString enPilaGrande(const std::function<QString()> &trabajo)
-{
-    QString resultado;
-    std::exception_ptr fallo;
-    std::unique_ptr<QThread> hilo(QThread::create([&] {
-        try {
-            resultado = trabajo();
-        } catch (...) {
-            fallo = std::current_exception();
+class PilaGrande {
+public:
+    static PilaGrande &la()
+    {
+        static PilaGrande pila;
+        return pila;
+    }
+
+    // Runs `trabajo` there while the caller waits; its result, or what it threw.
+    QString ejecutar(const std::function<QString()> &trabajo)
+    {
+        if (QThread::currentThread() == hilo_.get())
+            return trabajo(); // already on the large stack
+        std::lock_guard<std::mutex> turno(turno_);
+        QString resultado;
+        std::exception_ptr fallo;
+        {
+            std::unique_lock<std::mutex> lock(mutex_);
+            trabajo_ = [&] {
+                try {
+                    resultado = trabajo();
+                } catch (...) {
+                    fallo = std::current_exception();
+                }
+            };
+            hecho_ = false;
+            aviso_.notify_all();
+            aviso_.wait(lock, [this] { return hecho_; });
         }
-    }));
-    hilo->setStackSize(kPila);
-    hilo->start();
-    hilo->wait();
-    if (fallo)
-        std::rethrow_exception(fallo);
-    return resultado;
-}
+        if (fallo)
+            std::rethrow_exception(fallo);
+        return resultado;
+    }
+
+private:
+    PilaGrande()
+    {
+        hilo_.reset(QThread::create([this] { atender(); }));
+        hilo_->setObjectName(QStringLiteral("cFormulas"));
+        hilo_->setStackSize(kPila);
+        hilo_->start();
+    }
+    ~PilaGrande()
+    {
+        {
+            std::lock_guard<std::mutex> lock(mutex_);
+            fin_ = true;
+            aviso_.notify_all();
+        }
+        hilo_->wait();
+    }
+
+    void atender()
+    {
+        std::unique_lock<std::mutex> lock(mutex_);
+        for (;;) {
+            aviso_.wait(lock, [this] { return fin_ || trabajo_; });
+            if (fin_)
+                return;
+            trabajo_();
+            trabajo_ = nullptr;
+            hecho_ = true;
+            aviso_.notify_all();
+        }
+    }
+
+    std::mutex turno_; // one caller at a time
+    std::mutex mutex_;
+    std::condition_variable aviso_;
+    std::function<void()> trabajo_;
+    bool hecho_ = false;
+    bool fin_ = false;
+    std::unique_ptr<QThread> hilo_;
+};
 
 // The guards end a runaway recursion or rewriting; no handler of the evaluator may
 // swallow what they raise, or the runaway would go on from there.
@@ -1048,7 +1105,7 @@ QString cFormulas::cadenaPlana(QString expresion)
 
 QString cFormulas::Formula(const QString &expresion)
 {
-    return enPilaGrande([&] { return formulaEnPila(expresion); });
+    return PilaGrande::la().ejecutar([&] { return formulaEnPila(expresion); });
 }
 
 QString cFormulas::formulaEnPila(const QString &expresion)
