@@ -1,6 +1,5 @@
 #include "error_number.h"
 #include "fakes.h"
-#include "identifiers/identifiers.h"
 #include "identifiers/isbn.h"
 #include "identifiers/moviles.h"
 #include "identifiers/nif.h"
@@ -61,15 +60,17 @@ TEST(Isbn, DigitsAreReadByPositionAndWeighted)
     }
 }
 
-TEST(Visas, RandomDigitsFavourTwoAndShunZero)
+TEST(Visas, GeneratedDigitsFavourTwoAndShunZero)
 {
     ClassicRandom random;
     random.randomize(3);
     std::map<int, int> veces;
-    for (int i = 0; i < 10000; ++i) {
-        const int d = digitoAlAzar(random);
-        ++veces[d == 10 ? 2 : d];
+    for (int tarjeta = 0; tarjeta < 910; ++tarjeta) { // 10,010 draws
+        const DigitosTarjeta d = generarTarjeta(random, 0, QStringLiteral("000"));
+        for (int i = 4; i < 15; ++i)
+            ++veces[d[i]];
     }
+    EXPECT_EQ(veces.count(10), 0u);
     EXPECT_NEAR(veces[2], 1500, 200);
     EXPECT_NEAR(veces[0], 500, 120);
     for (int d : {1, 3, 4, 5, 6, 7, 8, 9})
