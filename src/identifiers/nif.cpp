@@ -10,8 +10,8 @@ namespace zafro {
 
 ResultadoNif calcularNif(double numero)
 {
-    const qint32 resto = modulo(numero, 23);
-    if (numero < 0 || resto < 0)
+    const qint32 resto = modulo(numero, 23); // beyond 32 bits this is the overflow error
+    if (numero < 0)
         return {};
     const QString letra = kLetrasNif.mid(resto, 1);
     return {letra, CStr(numero) + letra};
