@@ -284,7 +284,6 @@ Panel1900::Panel1900(QWidget *parent, EstadoProvincial &estado)
     // kept: there never was a 1914 entry; "before 1914" covers it.
     combo4_->addItem(QStringLiteral("Antes de 1914"));
     combo4_->addItems(anos(1915, 1971));
-    text7_->setMaxLength(3);
     caja(cText1_, 6);
     textoInicial(cText1_, QStringLiteral("123456"));
     calculaConIntro(cText1_);
