@@ -101,13 +101,13 @@ MatriculasWindow::MatriculasWindow()
       label2_(place(new QLabel(client_), "Label2", 6200, 2820, 600, 300)),
       labeln9_(place(new QLabel(client_), "Labeln9", 240, 6180, 10440, 300)),
       ls_(place(new QLabel(client_), "ls", 0, 0, 300, 300)),
-      picture2_(place(new QWidget(client_), "Picture2", 2640, 120, 8040, 5880)),
-      picture4_(place(new QWidget(client_), "Picture4", 2640, 120, 8040, 5880)),
+      picture2_(new Panel1971(client_, provincial_)),
+      picture4_(new Panel1900(client_, provincial_)),
       picture5_(new PanelActual(client_, [this] { command6Click(); }))
 {
     setWindowTitle(QStringLiteral("Zafro Matrículas"));
-    picture5_->setGeometry(picture2_->geometry());
-    for (QWidget *pane : {picture2_, picture4_, static_cast<QWidget *>(picture5_)}) {
+    for (QWidget *pane : panes()) {
+        pane->setGeometry(twipsRect(2640, 120, 8040, 5880));
         pane->setAutoFillBackground(true);
         pane->hide();
     }
@@ -216,7 +216,8 @@ void MatriculasWindow::command2Click()
     label1_->setText(texto(slot::SeleccioneTipoMatricula));
     command6_->setText(texto(slot::MatriculasActualizar));
     picture5_->escribirTextos();
-    // The provincial panes' results are emptied here too once they exist.
+    picture2_->escribirTextos();
+    picture4_->escribirTextos();
     for (const MenuRow &row : kMenus) {
         if (row.slot <= 0)
             continue;
@@ -226,9 +227,9 @@ void MatriculasWindow::command2Click()
         if (QAction *entry = action(row.name))
             entry->setText(text);
     }
-    matriculadoEn_ = texto(slot::CocheMatriculadoEn);
-    antesDe1914_ = texto(slot::AntesDe1914);
-    colonias_ = texto(slot::AntiguasColonias);
+    provincial_.matriculadoEn = texto(slot::CocheMatriculadoEn);
+    provincial_.antesDe1914 = texto(slot::AntesDe1914);
+    provincial_.colonias = texto(slot::AntiguasColonias);
     label2_->clear();
     // Where the sentence of Label1 ends in each language, so that the dots follow it.
     int left = 10000;
@@ -263,9 +264,14 @@ void MatriculasWindow::timer2Timer()
         label2_->setText(QStringLiteral("."));
 }
 
+QList<QWidget *> MatriculasWindow::panes() const
+{
+    return {picture2_, picture4_, picture5_};
+}
+
 void MatriculasWindow::mostrarPanel(QWidget *panel)
 {
-    for (QWidget *pane : {picture2_, picture4_, static_cast<QWidget *>(picture5_)})
+    for (QWidget *pane : panes())
         pane->setVisible(pane == panel);
 }
 
@@ -273,14 +279,14 @@ void MatriculasWindow::command1Click()
 {
     paneActual_ = QStringLiteral("0");
     mostrarPanel(picture4_);
-    indice_ = QStringLiteral("-1");
+    provincial_.indice = QStringLiteral("-1");
 }
 
 void MatriculasWindow::command4Click()
 {
     paneActual_ = QStringLiteral("0");
     mostrarPanel(picture2_);
-    indice_ = QStringLiteral("-1");
+    provincial_.indice = QStringLiteral("-1");
 }
 
 void MatriculasWindow::command5Click()

@@ -5,6 +5,7 @@
 // label `ls` reads "1"; any other text makes it a program of its own, with its own
 // language menu and an end of the whole program at Cerrar.
 
+#include "plates/provincial_pane.h"
 #include "shell/form.h"
 
 class QAction;
@@ -44,12 +45,12 @@ public:
     void menucerrarClick();
 
     QString paneActual() const { return paneActual_; }
-    QString indice() const { return indice_; }
+    QString indice() const { return provincial_.indice; }
 
     // Texts of the provincial panes, taken with the language.
-    QString textoMatriculadoEn() const { return matriculadoEn_; }
-    QString textoAntesDe1914() const { return antesDe1914_; }
-    QString textoColonias() const { return colonias_; }
+    QString textoMatriculadoEn() const { return provincial_.matriculadoEn; }
+    QString textoAntesDe1914() const { return provincial_.antesDe1914; }
+    QString textoColonias() const { return provincial_.colonias; }
 
 Q_SIGNALS:
     // Every start of the server update passes here, whatever asked for it.
@@ -62,6 +63,7 @@ private:
     void marcarIdioma(int codigo);
     bool bajoElIndice() const;
     void mostrarPanel(QWidget *panel);
+    QList<QWidget *> panes() const;
 
     ToolFrame *frame_ = nullptr;
     QMenuBar *menuBar_;
@@ -74,17 +76,14 @@ private:
     QLabel *label2_;
     QLabel *labeln9_;
     QLabel *ls_;
-    QWidget *picture2_;
-    QWidget *picture4_;
+    EstadoProvincial provincial_;
+    Panel1971 *picture2_;
+    Panel1900 *picture4_;
     PanelActual *picture5_;
     QTimer *timer2_;
     QMenu *menuidioma_ = nullptr;
 
     QString paneActual_ = QStringLiteral("0");
-    QString indice_ = QStringLiteral("-1");
-    QString matriculadoEn_;
-    QString antesDe1914_;
-    QString colonias_;
 };
 
 } // namespace zafro
