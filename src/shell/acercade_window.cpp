@@ -93,8 +93,8 @@ AcercadeWindow::AcercadeWindow()
     inert(place(new Emblem(this), "Image1", 420, 720, 1320, 1320));
     inert(place(new QLabel(QStringLiteral("Zafro Suite"), this), "Label7", 1980, 870, 3000, 600));
     // The credits roll inside their own window, which clips them.
-    auto *frame1 = inert(place(new QFrame(this), "Frame1", 5100, 540, 3000, 1800));
-    label3_ = inert(place(new QLabel(frame1), "Label3", 90, label3Top_, 2820, 1800));
+    auto *frame1 = inert(place(new QFrame(this), "Frame1", 4980, 660, 2880, 1680));
+    label3_ = inert(place(new QLabel(frame1), "Label3", 90, label3Top_, 2700, 1680));
     label3_->setWordWrap(true);
     label3_->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
 

@@ -7,6 +7,7 @@
 #include "shell/launcher.h"
 #include "shell/product.h"
 #include "shell/settings.h"
+#include "shell/skin_sample.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -42,11 +43,13 @@ PreferenciasWindow::PreferenciasWindow()
     setStyleSheet(QStringLiteral(
         "zafro--PreferenciasWindow { background: #123a63; }"
         "QLabel#Label1 { color: #f0b429; font-size: 15pt; font-weight: bold; }"
-        "QCheckBox { color: #ffffff; }"
         "QPushButton { background: #dfe8f2; color: #10263d; border: 1px solid #6f8fb0;"
         " border-radius: 3px; padding: 2px 8px; }"
         "QPushButton:hover { background: #ffffff; }"
         "QPushButton#Command8 { background: #f0b429; font-weight: bold; }"));
+    // The palette rather than the style sheet: a sheet's colour would whiten the tick too.
+    for (QCheckBox *box : {check1_, check2_, check3_, check4_, check5_})
+        paintText(box, Qt::white);
     connect(command1_, &QPushButton::clicked, this, &PreferenciasWindow::command1Click);
     connect(command2_, &QPushButton::clicked, this, &PreferenciasWindow::command2Click);
     connect(command3_, &QPushButton::clicked, this, &PreferenciasWindow::command3Click);
