@@ -4,17 +4,16 @@
 #include "shell/forms.h"
 #include "shell/index_window.h"
 #include "shell/language.h"
+#include "shell/launcher.h"
 #include "shell/limpia_window.h"
 #include "shell/preferencias_window.h"
 #include "shell/settings.h"
-#include "shell/skins.h"
 #include "shell/toolframe.h"
 
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
 #include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
@@ -27,161 +26,90 @@ namespace {
 
 using test::fakes;
 
-QString stored(const QString &path)
-{
-    return LeerClaveShell(path.contains(u'\\') ? path : configPath(path));
-}
-
-QString autostartFolder()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::ConfigLocation) + "/autostart/";
-}
-
-// The program and arguments of a desktop entry's Exec line, unescaped and unquoted
-// the way a session starts it.
-QStringList execArguments(const QString &entryFile)
-{
-    QFile file(entryFile);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QString exec;
-    for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n'))
-        if (line.startsWith("Exec="))
-            exec = line.mid(5);
-    QString plain;
-    for (qsizetype i = 0; i < exec.size(); ++i) {
-        const QChar c = exec[i] == u'\\' && i + 1 < exec.size() ? exec[++i] : QChar();
-        plain += c.isNull() ? exec[i] : c == u's' ? QChar(u' ') : c;
-    }
-    QStringList args{QString()};
-    bool quoted = false;
-    for (qsizetype i = 0; i < plain.size(); ++i) {
-        if (plain[i] == u'"')
-            quoted = !quoted;
-        else if (plain[i] == u' ' && !quoted)
-            args << QString();
-        else
-            args.last() += quoted && plain[i] == u'\\' ? plain[++i] : plain[i];
-    }
-    return args.replaceInStrings("%%", "%");
-}
-
-// A tool with nothing but the frame's about button.
-class AboutButtonTool : public Form {
-public:
-    AboutButtonTool() { (new ToolFrame(this))->connectAbout(new QPushButton(this)); }
-};
-
 class ShellWindows : public ::testing::Test {
 protected:
-    void SetUp() override
+    void SetUp() override { CargarEspanol(), writeConfig("idioma", "1"); }
+    static QString stored(const char *name) { return LeerClaveShell(configPath(name)); }
+    QString entry(const char *name = "zafrosuite") { return autostart + name + ".desktop"; }
+    template <typename T = PreferenciasWindow> T *open(const char *name = "preferencias")
     {
-        CargarEspanol();
-        writeConfig("idioma", "1");
-        writeConfig("Visitado", "5");
-        guardarSkin(4);
-        QDir(autostartFolder()).removeRecursively();
+        return qobject_cast<T *>(forms().show(name));
     }
-    PreferenciasWindow *preferencias() { return findOrShow<PreferenciasWindow>("preferencias"); }
-    template <typename T> T *findOrShow(const char *name)
-    {
-        return qobject_cast<T *>(forms().show(QLatin1String(name)));
-    }
-    QCheckBox *check(const char *name) { return preferencias()->findChild<QCheckBox *>(name); }
+    QCheckBox *check(const char *name) { return open()->findChild<QCheckBox *>(name); }
+    void apply(const char *box, bool on) { check(box)->setChecked(on), open()->command8Click(); }
+    const QString autostart =
+        QStandardPaths::writableLocation(QStandardPaths::ConfigLocation) + "/autostart/";
 };
 
 TEST_F(ShellWindows, FlagsTickAsReadAndApplyWritesThemBackClean)
 {
+    const char *const flags[] = {"internetinicio", "tituloanimado", "programainicio", "pregcerrar"};
     const struct {
-        const char *name, *text; // the text stored in all five flags; null: absent
+        const char *text; // in all five flags; null: absent
         bool ticked, check4;
-    } rows[] = {{"one", "1", true, false},
-                {"zero", "0", false, true},
-                {"absent", nullptr, false, true},
-                {"three", "3", false, false},
-                {"half", "0.5", false, false},
-                {"words", "si", false, true},
-                {"zeroPointZero", "0.0", false, true},
-                {"oneAndText", "1abc", true, false}};
+    } rows[] = {{"1", true, false},     {"1abc", true, false}, {"0", false, true},
+                {nullptr, false, true}, {"0.0", false, true},  {"si", false, true},
+                {"3", false, false},    {"0.5", false, false}};
     for (const auto &row : rows) {
-        for (const char *flag :
-             {"internetinicio", "tituloanimado", "programainicio", "pregcerrar", "precarga"})
+        SCOPED_TRACE(row.text ? row.text : "absent");
+        for (const char *flag : {flags[0], flags[1], flags[2], flags[3], "precarga"})
             row.text ? writeConfig(flag, row.text) : BorrarClave(configPath(flag));
         for (const char *box : {"Check1", "Check2", "Check3", "Check5"})
-            EXPECT_EQ(check(box)->isChecked(), row.ticked) << row.name << " " << box;
-        EXPECT_EQ(check("Check4")->isChecked(), row.check4) << row.name;
-        for (int apply = 0; apply < 2; ++apply)
-            preferencias()->command8Click();
-        const QString one = row.ticked ? "1" : "0";
-        for (const char *flag : {"internetinicio", "tituloanimado", "programainicio", "pregcerrar"})
-            EXPECT_EQ(stored(flag), one) << row.name << " " << flag;
-        EXPECT_EQ(stored("precarga"), row.check4 ? "0" : "1") << row.name;
-        EXPECT_EQ(QFile::exists(autostartFolder() + "zafrosuite.desktop"), row.ticked) << row.name;
-        ASSERT_EQ(fakes().dialogs.messages.size(), 2) << row.name;
-        EXPECT_EQ(fakes().dialogs.messages[1].text, "La nueva configuración ha sido guardada");
-        EXPECT_EQ(fakes().dialogs.messages[1].title, "¡Guardado!");
+            EXPECT_EQ(check(box)->isChecked(), row.ticked) << box;
+        EXPECT_EQ(check("Check4")->isChecked(), row.check4);
+        open()->command8Click();
+        for (const char *flag : flags)
+            EXPECT_EQ(stored(flag), row.ticked ? "1" : "0") << flag;
+        EXPECT_EQ(stored("precarga"), row.check4 ? "0" : "1");
+        EXPECT_EQ(QFile::exists(entry()), row.ticked);
         EXPECT_EQ(forms().loadedNames(), QStringList{"preferencias"}) << "it stays open";
         forms().unload("preferencias");
-        fakes().dialogs.messages.clear();
     }
-    EXPECT_EQ(stored("HKCU\\Software\\Microsoft\\Internet Explorer\\Main\\Start Page"),
-              "http://www.zafrosuite.com")
-        << "unticking never restores the start page";
+    EXPECT_EQ(fakes().dialogs.messages.last().text, "La nueva configuración ha sido guardada");
+    EXPECT_EQ(fakes().dialogs.messages.last().title, "¡Guardado!");
+    EXPECT_EQ(LeerClaveShell(startPagePath()), "http://www.zafrosuite.com") << "never restored";
 }
 
 TEST_F(ShellWindows, PreferencesDecideTheNextStartAndTheClose)
 {
     writeConfig("precarga", "1");
-    findOrShow<IndexWindow>("index")->command4Click();
-    EXPECT_FALSE(check("Check4")->isChecked());
-    check("Check4")->setChecked(true);
+    open<IndexWindow>("index")->command4Click();
     check("Check5")->setChecked(true);
-    preferencias()->command8Click();
-    findOrShow<IndexWindow>("index")->command8Click();
+    apply("Check4", true);
+    open<IndexWindow>("index")->command8Click();
     EXPECT_NE(forms().find("au"), nullptr) << "the close asks";
-    EXPECT_EQ(forms().find("index"), nullptr);
-    findOrShow<AuWindow>("au")->command2Click(); // "Al cerrar ir a la web" unticked
+    open<AuWindow>("au")->command2Click(); // "Al cerrar ir a la web" unticked
     EXPECT_TRUE(fakes().desktop.openedUrls.isEmpty());
     EXPECT_TRUE(fakes().desktop.ended());
-
-    forms().unloadAll();
-    forms().show("inicio");
-    EXPECT_NE(forms().find("intro"), nullptr) << "preload ticked shows the splash";
-    forms().unloadAll();
-    check("Check4")->setChecked(false);
-    preferencias()->command8Click();
-    forms().show("inicio");
-    EXPECT_EQ(forms().find("intro"), nullptr);
-    EXPECT_NE(forms().find("index"), nullptr);
+    for (const bool preload : {true, false}) {
+        forms().unloadAll();
+        apply("Check4", preload);
+        forms().show("inicio");
+        EXPECT_EQ(forms().find("intro") != nullptr, preload);
+        EXPECT_EQ(forms().find("index") != nullptr, !preload);
+    }
 }
 
-TEST_F(ShellWindows, TheAutostartEntryStartsThisProgramFromAnyFolder)
+TEST_F(ShellWindows, TheAutostartEntryStartsThisProgramFromAnyFolderAndGoesAlone)
 {
-    QDir().mkpath(autostartFolder());
-    QFile other(autostartFolder() + "other.desktop");
-    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
-    other.close();
+    QDir().mkpath(entry("other").section(u'/', 0, -2));
+    ASSERT_TRUE(QFile(entry("other")).open(QIODevice::WriteOnly));
     for (const char *folder : {"a b$%\"c", "it's `x` \\ (v2) & ~;#*?<>|"}) {
         QTemporaryDir dir;
-        const QString where = dir.filePath(QString::fromUtf8(folder));
-        ASSERT_TRUE(QDir().mkpath(where));
-        QFile program(where + "/zafrosuite");
-        ASSERT_TRUE(program.open(QIODevice::WriteOnly));
-        program.write("#!/bin/sh\ntouch \"$0.started\"\n");
-        program.setPermissions(program.permissions() | QFileDevice::ExeOwner);
-        program.close();
-        fakes().desktop.folder = where;
-        check("Check3")->setChecked(true);
-        preferencias()->command8Click();
-        const QStringList args = execArguments(autostartFolder() + "zafrosuite.desktop");
-        ASSERT_FALSE(args.isEmpty()) << folder;
-        EXPECT_EQ(QProcess::execute(args[0], args.mid(1)), 0) << folder;
-        EXPECT_TRUE(QFile::exists(where + "/zafrosuite.started")) << args.join(u'|').toStdString();
-        check("Check3")->setChecked(false);
-        preferencias()->command8Click();
-        preferencias()->command8Click(); // the absent value goes in silence
-        EXPECT_FALSE(QFile::exists(autostartFolder() + "zafrosuite.desktop"));
-        EXPECT_TRUE(QFile::exists(autostartFolder() + "other.desktop"));
+        fakes().desktop.folder = dir.filePath(QString::fromUtf8(folder));
+        QDir().mkpath(fakes().desktop.folder);
+        QFile::link("/bin/true", fakes().desktop.folder + "/zafrosuite");
+        apply("Check3", true);
+        // Once the entry's string escapes and "%%" are undone, its quoting is the shell's.
+        QFile file(entry());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        QString exec = QString::fromUtf8(file.readAll()).section("\nExec=", 1).section(u'\n', 0, 0);
+        exec.replace("\\\\", "\\").replace("%%", "%");
+        EXPECT_EQ(QProcess::execute("sh", {"-c", exec}), 0) << folder << " " << exec.toStdString();
+        apply("Check3", false);
+        apply("Check3", false); // the absent value goes in silence
+        EXPECT_FALSE(QFile::exists(entry()));
+        EXPECT_TRUE(QFile::exists(entry("other")));
         forms().unload("preferencias");
     }
     EXPECT_EQ(fakes().dialogs.messages.size(), 6);
@@ -189,84 +117,50 @@ TEST_F(ShellWindows, TheAutostartEntryStartsThisProgramFromAnyFolder)
 
 TEST_F(ShellWindows, AboutIsOneWindowWhoseCreditsRollAndPause)
 {
-    for (const char *tool : {"herramienta1", "herramienta2"}) {
-        forms().registerForm(tool, [] { return new AboutButtonTool; });
-        forms().show(tool);
-    }
-    forms().find("herramienta1")->findChild<QPushButton *>()->click();
-    auto *about = findOrShow<AcercadeWindow>("acercade");
-    EXPECT_EQ(about->findChild<QLabel *>("Label4")->text(), "v: 4.6.32");
-    EXPECT_EQ(about->windowTitle(), "Acerca de Zafro Suite...");
-    const int top = about->label3Top();
+    Form tool; // nothing but the frame's about button
+    (new ToolFrame(&tool))->connectAbout(new QPushButton(&tool));
+    open<IndexWindow>("index")->command7Click();
+    auto *about = open<AcercadeWindow>("acercade");
     about->timer1Timer();
-    forms().find("herramienta2")->findChild<QPushButton *>()->click();
+    tool.findChild<QPushButton *>()->click();
     EXPECT_EQ(forms().find("acercade"), about);
-    EXPECT_EQ(about->label3Top(), top - 8) << "the same load, not a new one";
-
-    int ticks = 0;
-    while (about->label3Top() > -about->label3HeightTwips() && ++ticks < 1000)
+    EXPECT_EQ(about->label3Top(), 1432) << "raised, not loaded again";
+    EXPECT_EQ(about->findChild<QLabel *>("Label4")->text(), "v: 4.6.32");
+    while (about->label3Top() > -about->label3HeightTwips())
         about->timer1Timer();
-    const QLabel *credits = about->findChild<QLabel *>("Label3");
-    EXPECT_LT(credits->geometry().bottom(), 0) << "it left its window";
+    EXPECT_LT(about->findChild<QLabel *>("Label3")->geometry().bottom(), 0);
     about->timer1Timer();
     EXPECT_EQ(about->label3Top(), 2000);
-
     about->label6Click();
-    EXPECT_EQ(about->findChild<QLabel *>("Label6")->text(), "Reanudar");
     EXPECT_FALSE(about->findChild<QTimer *>("Timer1")->isActive());
-    about->label6Click();
-    EXPECT_TRUE(about->findChild<QTimer *>("Timer1")->isActive());
     about->label5Click();
     EXPECT_EQ(fakes().desktop.openedUrls, QStringList{"http://www.zafrosuite.com"});
-    about->label2Click();
-    EXPECT_EQ(forms().find("acercade"), nullptr);
 }
 
 TEST_F(ShellWindows, TheUninstallRemovesOnlyTheSuitesListAndTheNextStartIsAFirstRun)
 {
-    const QStringList survivors = {configPath("topopen"), configPath("Fonrojo", "Colores\\Integro"),
-                                   configPath("USD", "Divisas"), configPath("200009", "Matriculas"),
-                                   configPath("desconocido")};
-    const QString colour = stored(configPath("BackColor", "Colores"));
-    QTemporaryDir emptyStore;
-    for (const bool full : {true, false}) {
-        SCOPED_TRACE(full ? "full store, from the preferences" : "empty store, at start");
-        if (full) {
-            CargarIngles();
-            for (const QString &path : survivors + uninstallValuePaths())
-                EscribirClave(path, "7");
-            forms().show("index");
-            preferencias()->command3Click();
-            EXPECT_EQ(forms().find("preferencias"), nullptr);
-        } else {
-            clearLanguageTable();
-            useSettingsFile(emptyStore.filePath("registry.sqlite3"));
-        }
-        findOrShow<LimpiaWindow>("limpia")->command1Click();
-        ASSERT_EQ(fakes().dialogs.messages.size(), 1);
-        EXPECT_EQ(fakes().dialogs.messages[0].text,
+    const QStringList kept = {configPath("BackColor", "Colores"), configPath("desconocido")};
+    CargarIngles();
+    for (const QString &path : kept + uninstallValuePaths())
+        EscribirClave(path, "7");
+    forms().show("index");
+    open()->command3Click();
+    for (int run = 1; run <= 2; ++run) { // the second finds nothing left to remove
+        open<LimpiaWindow>("limpia")->command1Click();
+        ASSERT_EQ(fakes().dialogs.messages.size(), run);
+        EXPECT_EQ(fakes().dialogs.messages.last().text,
                   "Todas las entradas de Zafro Suite en el registro han sido borradas "
                   "corréctamente. Un saludo");
-        EXPECT_EQ(fakes().dialogs.messages[0].title, "Desinstalado");
-        EXPECT_TRUE(fakes().desktop.ended());
-        EXPECT_EQ(forms().find("limpia"), nullptr);
-        for (const QString &path : uninstallValuePaths())
-            EXPECT_EQ(stored(path), QString()) << path.toStdString();
-        for (const QString &path : full ? survivors : QStringList())
-            EXPECT_EQ(stored(path), "7") << path.toStdString();
-        EXPECT_EQ(stored(configPath("BackColor", "Colores")), full ? colour : QString());
-
-        forms().unloadAll();
-        forms().show("inicio");
-        EXPECT_NE(forms().find("idiomaa"), nullptr) << "a first run";
-        forms().unloadAll();
-        fakes().dialogs.messages.clear();
-        fakes().desktop.endStatuses.clear();
+        EXPECT_EQ(fakes().dialogs.messages.last().title, "Desinstalado");
+        EXPECT_EQ(fakes().desktop.endStatuses.size(), run);
     }
-    forms().show("index");
-    findOrShow<LimpiaWindow>("limpia")->command2Click();
-    EXPECT_EQ(forms().loadedNames(), QStringList{"index"});
-    EXPECT_FALSE(fakes().desktop.ended());
+    EXPECT_EQ(LeerClaveShell(configPath("Tipo", "Colores")), QString());
+    EXPECT_FALSE(QFile::exists(entry()));
+    for (const QString &path : kept)
+        EXPECT_EQ(LeerClaveShell(path), "7") << path.toStdString();
+    forms().unloadAll();
+    forms().show("inicio");
+    EXPECT_NE(forms().find("idiomaa"), nullptr) << "a first run";
 }
 
 } // namespace
