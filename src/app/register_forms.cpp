@@ -8,6 +8,7 @@
 #include "maths/maths_forms.h"
 #include "online/online_forms.h"
 #include "plates/plates_forms.h"
+#include "shell/acercade_window.h"
 #include "shell/au_window.h"
 #include "shell/colores_window.h"
 #include "shell/colorestuyos_window.h"
@@ -17,8 +18,9 @@
 #include "shell/inicio_window.h"
 #include "shell/intro_window.h"
 #include "shell/launcher_hooks.h"
+#include "shell/limpia_window.h"
 #include "shell/nuevos_window.h"
-#include "shell/placeholder_window.h"
+#include "shell/preferencias_window.h"
 
 namespace zafro {
 
@@ -33,17 +35,15 @@ void registerForms()
     f.registerForm(QStringLiteral("au"), [] { return new AuWindow; });
     f.registerForm(QStringLiteral("colores"), [] { return new ColoresWindow; });
     f.registerForm(QStringLiteral("colorestuyos"), [] { return new ColorestuyosWindow; });
+    f.registerForm(QStringLiteral("preferencias"), [] { return new PreferenciasWindow; });
+    f.registerForm(QStringLiteral("acercade"), [] { return new AcercadeWindow; });
+    f.registerForm(QStringLiteral("limpia"), [] { return new LimpiaWindow; });
     registerMathsForms();
     registerGraphForms();
     registerPlatesForms();
     registerOnlineForms();
     registerIdentifierForms();
     launcherHooks().formulaBench = formulaBench;
-    // Windows of the shell whose own behaviour comes later stand in with their name.
-    for (const char *name : {"preferencias", "acercade", "limpia"}) {
-        const QString title = QLatin1String(name);
-        f.registerForm(title, [title] { return new PlaceholderWindow(title); });
-    }
 }
 
 } // namespace zafro

@@ -160,7 +160,13 @@ QString unescaped(QStringView text)
 QString execLine(const QString &text)
 {
     QString program = text;
-    program.replace(u'\\', u'/');
+    // A path of this system keeps its own backslashes, which are legal in a folder's
+    // name: only the one put before the file name separates.
+    const qsizetype last = program.lastIndexOf(u'\\');
+    if (program.startsWith(u'/') && last >= 0)
+        program[last] = u'/';
+    else
+        program.replace(u'\\', u'/');
     if (program.endsWith(QStringLiteral(".exe"), Qt::CaseInsensitive))
         program.chop(4);
     static const QString reserved = QStringLiteral(" \t\n\"'\\><~|&;$*?#()`");
