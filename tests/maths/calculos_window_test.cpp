@@ -16,6 +16,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
@@ -67,6 +68,14 @@ protected:
     }
     void click(const char *name) { QTest::mouseClick(get<QWidget>(name), Qt::LeftButton); }
     void clickBackground() { QTest::mouseClick(window, Qt::LeftButton, {}, QPoint(3, 3)); }
+    QString pictures() const
+    {
+        QStringList shown;
+        for (const FiguraArea &figura : figurasArea())
+            if (get<QLabel>(figura.imagen)->isVisible())
+                shown << QLatin1String(figura.imagen);
+        return shown.join(u' ');
+    }
     // Results showing, for the screenshots and the fit of what they show.
     void typeSample(const QString &tool)
     {
@@ -192,20 +201,14 @@ TEST_F(ToolWindowTest, EachWindowHasItsFrameAndEveryCaptionFits)
 TEST_F(ToolWindowTest, SeggradoSolvesRefusesNoAAndEmptiesOnTheBackground)
 {
     auto *w = open<SeggradoWindow>("seggrado");
-    const struct {
-        const char *a, *b, *c, *x1, *x2;
-        bool note;
-    } rows[] = {{"1", "0", "1", "0 + 1i", "0 + -1i", true}, {"1", "2", "1", "-1", "-1", false}};
-    for (const auto &row : rows) {
-        type("Text7", u"old"_s);
-        fill({{"Text1", QLatin1String(row.a)},
-              {"Text2", QLatin1String(row.b)},
-              {"Text3", QLatin1String(row.c)}});
-        click("Command3");
-        EXPECT_EQ(textOf("Text4"), QLatin1String(row.x1));
-        EXPECT_EQ(textOf("Text5"), QLatin1String(row.x2));
-        EXPECT_EQ(textOf("Text7"), row.note ? texto(slot::NumeroImaginario) : QString());
-    }
+    fill({{"Text1", u"1"_s}, {"Text2", u"0"_s}, {"Text3", u"1"_s}});
+    click("Command3");
+    EXPECT_EQ(std::tuple(textOf("Text4"), textOf("Text5"), textOf("Text7")),
+              std::tuple(u"0 + 1i"_s, u"0 + -1i"_s, texto(slot::NumeroImaginario)));
+    type("Text2", u"2"_s);
+    click("Command3");
+    EXPECT_EQ(std::tuple(textOf("Text4"), textOf("Text5"), textOf("Text7")),
+              std::tuple(u"-1"_s, u"-1"_s, QString()));
     type("Text1", u"0"_s);
     click("Command3");
     ASSERT_EQ(fakes().dialogs.messages.size(), 1);
@@ -216,9 +219,6 @@ TEST_F(ToolWindowTest, SeggradoSolvesRefusesNoAAndEmptiesOnTheBackground)
     clickBackground();
     for (const char *box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text7"})
         EXPECT_EQ(textOf(box), QString()) << box;
-    click("Command3");
-    EXPECT_EQ(fakes().dialogs.messages.size(), 2) << "an empty a reads 0";
-
     ScopedDecimalMark comma(u',');
     fill({{"Text1", u"1"_s}, {"Text2", u"1"_s}, {"Text3", u"0.3"_s}});
     EXPECT_EQ(test::errorNumber([w] { w->command3Click(); }), 5);
@@ -227,44 +227,35 @@ TEST_F(ToolWindowTest, SeggradoSolvesRefusesNoAAndEmptiesOnTheBackground)
 TEST_F(ToolWindowTest, SucesionesAnnouncesGeometricButComputesArithmetic)
 {
     auto *w = open<SucesionesWindow>("sucesiones");
-    EXPECT_EQ(textOf("Label5"), u"D="_s);
-    EXPECT_EQ(textOf("Label4"), u"Aritmética"_s);
+    EXPECT_EQ(std::pair(textOf("Label5"), textOf("Label4")), std::pair(u"D="_s, u"Aritmética"_s));
     click("Command3");
-    EXPECT_EQ(textOf("Label5"), u"R="_s);
-    EXPECT_EQ(textOf("Label4"), u"Geométrica"_s);
+    EXPECT_EQ(std::pair(textOf("Label5"), textOf("Label4")), std::pair(u"R="_s, u"Geométrica"_s));
     ASSERT_EQ(fakes().dialogs.messages.size(), 1);
     EXPECT_EQ(fakes().dialogs.messages[0].text, texto(slot::GeometricasNoDisponibles));
-
     fill({{"Text1", u"1"_s}, {"Text2", u"10"_s}, {"Text3", u"1"_s}});
     click("Command5");
     EXPECT_EQ(textOf("Text4"), u"10"_s) << "still arithmetic";
     type("Text1", u"0"_s);
     click("Command5");
-    EXPECT_EQ(textOf("Label7"), u"No hay datos"_s);
-    EXPECT_EQ(textOf("Text4"), QString());
+    EXPECT_EQ(std::pair(textOf("Label7"), textOf("Text4")),
+              std::pair(u"No hay datos"_s, QString()));
 
-    fill({{"Text1", u"1"_s}, {"Text3", u"0"_s}, {"Text4", u"0"_s}});
+    fill({{"Text1", u"1"_s}, {"Text3", u"0"_s}, {"Text4", u"10"_s}});
     click("Command4");
-    EXPECT_EQ(textOf("Label7"), u"No hay datos"_s);
-    type("Text4", u"10"_s);
-    click("Command4");
-    EXPECT_EQ(textOf("Label7"), QString());
-    EXPECT_EQ(textOf("Text5"), u"55"_s);
-    EXPECT_EQ(textOf("Text3"), u"1"_s) << "the derived difference";
+    EXPECT_EQ(std::tuple(textOf("Label7"), textOf("Text5"), textOf("Text3")),
+              std::tuple(QString(), u"55"_s, u"1"_s));
     click("Command1");
     EXPECT_EQ(textOf("Label5"), u"D="_s);
-
     fill({{"Text2", u"1"_s}, {"Text3", u"0"_s}});
     EXPECT_EQ(test::errorNumber([w] { w->command4Click(); }), 11);
 }
 
-TEST_F(ToolWindowTest, DiferencialAndItsPlaceholders)
+TEST_F(ToolWindowTest, DiferencialAndLogaWithTheirPlaceholders)
 {
     auto *w = open<DiferencialWindow>("diferencial");
-    EXPECT_EQ(textOf("Text1"), u"NUMERO"_s);
     EXPECT_TRUE(get("Text3")->isReadOnly() && get("Text4")->isReadOnly());
     click("Text1");
-    EXPECT_EQ(textOf("Text1"), QString());
+    EXPECT_EQ(textOf("Text1"), QString()) << "NUMERO goes away";
     fill({{"Text1", u"3"_s}, {"Text2", u"2"_s}});
     click("Command1");
     EXPECT_EQ(std::pair(textOf("Text3"), textOf("Text4")), std::pair(u"6"_s, u"1"_s));
@@ -274,37 +265,103 @@ TEST_F(ToolWindowTest, DiferencialAndItsPlaceholders)
     EXPECT_EQ(textOf("Text4"), QString()) << "a read-only box empties too";
     clickBackground();
     EXPECT_EQ(std::pair(textOf("Text1"), textOf("Text4")), std::pair(u"NUMERO"_s, u"10"_s));
-
-    ScopedDecimalMark comma(u',');
-    fill({{"Text1", u"3"_s}, {"Text2", u"0.5"_s}});
-    click("Command2");
-    EXPECT_EQ(std::pair(textOf("Text3"), textOf("Text4")), std::pair(u"2"_s, u"1"_s));
     type("Text2", u"-1"_s);
-    EXPECT_EQ(test::errorNumber([w] { w->command2Click(); }), 11);
-}
+    EXPECT_EQ(test::errorNumber([w] { w->command2Click(); }), 6) << "NUMERO/0 is 0/0";
 
-TEST_F(ToolWindowTest, LogaFollowsEveryChangeOfNumberAndBase)
-{
     open("loga");
     EXPECT_EQ(textOf("Text4"), u"10"_s);
     type("Text1", u"100"_s);
     EXPECT_EQ(std::pair(textOf("Text2"), textOf("Text3")), std::pair(u"2"_s, u"4.6052"_s));
-    type("Text4", u"1"_s);
-    EXPECT_EQ(std::pair(textOf("Text2"), textOf("Text3")), std::pair(u"Inválido"_s, u"Inválido"_s));
     type("Text4", u"2"_s);
-    EXPECT_EQ(textOf("Text2"), u"6.6439"_s);
+    EXPECT_EQ(textOf("Text2"), u"6.6439"_s) << "the base's change recomputes too";
     clickBackground();
     EXPECT_EQ(std::pair(textOf("Text1"), textOf("Text4")), std::pair(u"NUMERO"_s, u"10"_s));
     EXPECT_EQ(textOf("Text2"), u"Inválido"_s);
-
-    forms().unload(u"loga"_s);
-    CargarIngles();
-    open("loga");
     type("Text1", u"1"_s);
-    EXPECT_EQ(std::pair(textOf("Text2"), textOf("Text3")), std::pair(u"0"_s, u"0"_s));
     click("Text1");
-    EXPECT_EQ(textOf("Text1"), QString());
-    EXPECT_EQ(textOf("Text3"), u"Inválido"_s) << "the same word in every language";
+    EXPECT_EQ(std::pair(textOf("Text1"), textOf("Text3")), std::pair(QString(), u"Inválido"_s));
+}
+
+TEST_F(ToolWindowTest, AreasChoosesFiguresAndKeepsTheirPictures)
+{
+    open("areas");
+    click("Command3");
+    EXPECT_EQ(textOf("Text99"), u"RESULTADO"_s) << "no figure chosen, nothing";
+    for (const FiguraArea &figura : figurasArea())
+        EXPECT_FALSE(get<QLabel>(figura.imagen)->pixmap().isNull()) << figura.imagen;
+    const struct {
+        const char *button, *caption, *number, *labels, *pictures, *enabled, *area;
+    } rows[] = {
+        {"Command20", "Área  del T. de Cono", "7", "Radio MAYOR:|radio menor:|g:|", "troncocono",
+         "1110", "18.849558"},
+        {"Command21", "Área del Octoedro", "9", "arista:|||", "troncocono octaedro", "1000",
+         "3.4641"},
+        {"Command17", "Área del Rombo", "18", "d:|d':||", "troncocono octaedro rombo", "1100",
+         "0.5"},
+    };
+    for (const auto &row : rows) {
+        click(row.button);
+        EXPECT_EQ(std::pair(textOf("Label55"), textOf("Label56")),
+                  std::pair(QString::fromUtf8(row.caption), QString::fromLatin1(row.number)));
+        QStringList labels;
+        QString enabled;
+        for (const char *k : {"1", "2", "3", "4"}) {
+            labels << textOf(("Label" + std::string(k)).c_str());
+            enabled += get(("Text" + std::string(k)).c_str())->isEnabled() ? u'1' : u'0';
+        }
+        EXPECT_EQ(labels.join(u'|'), QString::fromUtf8(row.labels));
+        EXPECT_EQ(enabled, QLatin1String(row.enabled)) << row.button;
+        EXPECT_EQ(pictures(), QLatin1String(row.pictures)) << "earlier pictures stay";
+        fill({{"Text1", u"1"_s}, {"Text2", u"1"_s}, {"Text3", u"2"_s}});
+        click("Command3");
+        EXPECT_EQ(textOf("Text99"), QLatin1String(row.area)) << row.button;
+    }
+    click("Command98");
+    EXPECT_EQ(pictures(), QString());
+
+    type("Text2", u"0.0"_s);
+    click("Label55");
+    EXPECT_EQ(textOf("Text2"), u"0.0"_s) << "a label is not the background";
+    clickBackground();
+    EXPECT_EQ(std::tuple(textOf("Text1"), textOf("Text2"), textOf("Text4")),
+              std::tuple(u"1"_s, u"Dato 2"_s, u"Dato 4"_s));
+    click("Text2");
+    EXPECT_EQ(textOf("Text2"), QString());
+}
+
+TEST_F(ToolWindowTest, PrestamoShowsThePaymentOrTheMessageAndFiltersKeys)
+{
+    auto *w = open<PrestamoWindow>("prestamo");
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    fill({{"Capital", u"1000"_s}, {"InteresesGenerados", u"12"_s}});
+    click("CalCularDatos");
+    ASSERT_EQ(fakes().dialogs.messages.size(), 1) << "an empty Meses counts as 0";
+    EXPECT_EQ(fakes().dialogs.messages[0].text, u"El número de meses no puede ser 0"_s);
+    EXPECT_EQ(fakes().dialogs.messages[0].style, 16);
+    EXPECT_EQ(fakes().dialogs.messages[0].title, u"Error"_s);
+    EXPECT_EQ(QApplication::focusWidget(), get("Meses"));
+    EXPECT_EQ(textOf("Apagar"), QString());
+
+    type("Meses", u"12"_s);
+    click("CalCularDatos");
+    EXPECT_EQ(textOf("Apagar"), u"88.85"_s);
+    EXPECT_FLOAT_EQ(w->cuotaMensual(), 88.85f) << "takes back the value shown";
+    type("Capital", u"-1000"_s);
+    click("CalCularDatos");
+    EXPECT_EQ(textOf("Apagar"), u"88.85"_s) << "a negative payment is not shown";
+
+    type("Capital", u"1a,2.5.-5"_s);
+    EXPECT_EQ(textOf("Capital"), u"12.5.5"_s);
+    QTest::keyClick(get("Capital"), Qt::Key_Backspace);
+    EXPECT_EQ(textOf("Capital"), u"12.5."_s);
+    get("Capital")->setFocus();
+    for (const char *next : {"InteresesGenerados", "Meses", "CalCularDatos"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        EXPECT_EQ(QApplication::focusWidget(), get<QWidget>(next));
+    }
+    type("Meses", u"40000"_s);
+    EXPECT_EQ(test::errorNumber([w] { w->calCularDatosClick(); }), 6);
 }
 
 } // namespace
