@@ -93,8 +93,8 @@ protected:
         } else if (tool == u"loga"_s) {
             fill({{"Text1", u"100"_s}});
         } else if (tool == u"areas"_s) {
-            for (const char *button : {"Command20", "Command8", "Command24", "Command17"})
-                click(button);
+            for (const FiguraArea &figura : figurasArea())
+                click(figura.boton);
             fill({{"Text1", u"2"_s}, {"Text2", u"3"_s}});
             click("Command3");
         } else {
