@@ -138,7 +138,7 @@ TresenrayaWindow::TresenrayaWindow()
       lneHorizontal_(new LineaTablero(client_, QStringLiteral("lneHorizontal"))),
       lneVertical_(new LineaTablero(client_, QStringLiteral("lneVertical"))),
       lneDiagonal_(new LineaTablero(client_, QStringLiteral("lneDiagonal"))),
-      lblTateti_(etiqueta(client_, "lblTateti", {}, {4080, 4200, 3360, 480}, 20, true)),
+      lblTateti_(etiqueta(client_, "lblTateti", {}, {0, 360, 3840, 960}, 26, true)),
       lblTurno_(etiqueta(client_, "lblTurno", {}, {4080, 600, 3360, 480}, 16, true)),
       lblJugador1_(etiqueta(client_, "lblJugador1", QStringLiteral("Jugador1"),
                             {4080, 2040, 1680, 300}, 10, true)),
@@ -153,11 +153,11 @@ TresenrayaWindow::TresenrayaWindow()
       optInicia2_(place(new QRadioButton(QStringLiteral("Inicia partida"), client_), "optInicia_2",
                         5940, 3240, 1500, 300)),
       cmdNueva_(place(new QPushButton(QStringLiteral("Nueva partida"), client_), "cmdNueva", 4080,
-                      4800, 1620, 435)),
+                      4080, 3360, 435)),
       cmdReiniciar_(place(new QPushButton(QStringLiteral("Reiniciar puntuación"), client_),
-                          "cmdReiniciar", 5820, 4800, 1620, 435)),
-      command1_(place(new QPushButton(QStringLiteral("Salir"), client_), "Command1", 5820, 5280,
-                      1620, 435)),
+                          "cmdReiniciar", 4080, 4560, 3360, 435)),
+      command1_(place(new QPushButton(QStringLiteral("Salir"), client_), "Command1", 4080, 5040,
+                      3360, 435)),
       timer1_(makeTimer(this, QStringLiteral("Timer1"), 300, false, [this] { timer1Timer(); }))
 {
     setWindowTitle(QStringLiteral("Zafro Suite: 3 en Raya"));

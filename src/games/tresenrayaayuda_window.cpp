@@ -35,12 +35,12 @@ const char *const kAyuda[] = {
 } // namespace
 
 TresenrayaayudaWindow::TresenrayaayudaWindow()
-    : txtAyuda_(place(new QPlainTextEdit(this), "txtAyuda", 120, 120, 9360, 5040)),
-      cmdRegresar_(place(new QPushButton(QStringLiteral("Aceptar"), this), "cmdRegresar", 7920,
-                         5280, 1560, 435))
+    : txtAyuda_(place(new QPlainTextEdit(this), "txtAyuda", 120, 120, 11160, 4560)),
+      cmdRegresar_(place(new QPushButton(QStringLiteral("Aceptar"), this), "cmdRegresar", 9720,
+                         4800, 1560, 435))
 {
     setWindowTitle(QStringLiteral("Ayuda del Tres en Raya"));
-    resizeTwips(9600, 5880);
+    resizeTwips(11400, 5400);
     txtAyuda_->setReadOnly(true);
     connect(cmdRegresar_, &QPushButton::clicked, this, &Form::unloadMe);
     centreOnScreen();
