@@ -1,5 +1,6 @@
 target_sources(zafro_core PRIVATE ${CMAKE_CURRENT_LIST_DIR}/tresenraya.cpp)
 target_sources(zafro_ui PRIVATE ${CMAKE_CURRENT_LIST_DIR}/tresenraya_window.cpp
+                                ${CMAKE_CURRENT_LIST_DIR}/tresenraya_linea.cpp
                                 ${CMAKE_CURRENT_LIST_DIR}/tresenrayaayuda_window.cpp)
 qt_add_resources(zafro_ui "tresenraya_assets" PREFIX "/" BASE ${PROJECT_SOURCE_DIR}/assets FILES
   ${PROJECT_SOURCE_DIR}/assets/games/tablero.png
