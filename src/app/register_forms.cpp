@@ -4,6 +4,7 @@
 
 #include "formulas/cformulas.h"
 #include "formulas/graphs_forms.h"
+#include "games/games_forms.h"
 #include "identifiers/identifier_forms.h"
 #include "maths/maths_forms.h"
 #include "online/online_forms.h"
@@ -43,6 +44,7 @@ void registerForms()
     registerPlatesForms();
     registerOnlineForms();
     registerIdentifierForms();
+    registerGamesForms();
     launcherHooks().formulaBench = formulaBench;
 }
 

@@ -50,9 +50,10 @@ FrameSpec frameSpecFor(const QString &window)
         {QStringLiteral("coordenadas1"), {{}, 0}},
         {QStringLiteral("polares1"), {{}, 0}},
         // Not painted from the skin: the games, the graphs and the plates windows.
-        {QStringLiteral("tresenraya"), {{}, 100, false}},
-        {QStringLiteral("parejass"), {{}, 100, false}},
-        {QStringLiteral("nabes"), {{}, 100, false}},
+        // The games keep their own captions, and a Timer1 of their own.
+        {QStringLiteral("tresenraya"), {{}, 0, false}},
+        {QStringLiteral("parejass"), {{}, 0, false}},
+        {QStringLiteral("nabes"), {{}, 0, false}},
         {QStringLiteral("coordenadas2"), {{}, 0, false}},
         {QStringLiteral("polares2"), {{}, 0, false}},
         {QStringLiteral("matriculasselect"), {{}, 0, false}},

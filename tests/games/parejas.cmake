@@ -1,0 +1,1 @@
+list(APPEND GAMES_TEST_SOURCES ${CMAKE_CURRENT_LIST_DIR}/parejas_test.cpp)
