@@ -4,6 +4,7 @@
 
 #include "formulas/cformulas.h"
 #include "formulas/graphs_forms.h"
+#include "games/games_forms.h"
 #include "maths/maths_forms.h"
 #include "online/online_forms.h"
 #include "plates/plates_forms.h"
@@ -36,6 +37,7 @@ void registerForms()
     registerGraphForms();
     registerPlatesForms();
     registerOnlineForms();
+    registerGamesForms();
     launcherHooks().formulaBench = formulaBench;
     // Windows of the shell whose own behaviour comes later stand in with their name.
     for (const char *name : {"preferencias", "acercade", "limpia"}) {

@@ -52,7 +52,7 @@ FrameSpec frameSpecFor(const QString &window)
         // Not painted from the skin: the games, the graphs and the plates windows.
         {QStringLiteral("tresenraya"), {{}, 100, false}},
         {QStringLiteral("parejass"), {{}, 100, false}},
-        {QStringLiteral("nabes"), {{}, 100, false}},
+        {QStringLiteral("nabes"), {{}, 0, false}},
         {QStringLiteral("coordenadas2"), {{}, 0, false}},
         {QStringLiteral("polares2"), {{}, 0, false}},
         {QStringLiteral("matriculasselect"), {{}, 0, false}},

@@ -1,0 +1,114 @@
+#include "fakes.h"
+#include "games/nabes_window.h"
+#include "shell/forms.h"
+#include "shell/language.h"
+#include "shell/settings.h"
+
+#include <gtest/gtest.h>
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+namespace zafro {
+namespace {
+
+using test::fakes;
+
+class NabesWindowTest : public ::testing::Test {
+protected:
+    NabesWindow *open(const QString &idioma = QStringLiteral("1"))
+    {
+        writeConfig(QStringLiteral("idioma"), idioma);
+        game = findForm<NabesWindow>(QStringLiteral("nabes"));
+        if (!game)
+            game = qobject_cast<NabesWindow *>(forms().show(QStringLiteral("nabes")));
+        return game;
+    }
+    template <typename T = QLabel> T *get(QWidget *w, const char *name)
+    {
+        T *found = w->findChild<T *>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    bool active(const char *timer) { return get<QTimer>(game, timer)->isActive(); }
+    void ram() // flies straight into the enemy; the key that touches it ends the game
+    {
+        for (int i = 0; i < 35; ++i)
+            QTest::keyClick(game, Qt::Key_Right);
+    }
+
+    NabesWindow *game = nullptr;
+};
+
+TEST_F(NabesWindowTest, LoadTellsTheKeysInEveryLanguage)
+{
+    CargarIngles();
+    open(QStringLiteral("2"));
+    ASSERT_EQ(fakes().dialogs.messages.size(), 2);
+    EXPECT_EQ(fakes().dialogs.messages[0].text, texto(slot::SoloEspanol));
+    EXPECT_EQ(fakes().dialogs.messages[1].title, "Instrucciones");
+    EXPECT_EQ(game->size(), QSize(960, 640));
+    EXPECT_EQ(game->state().flama1.left, 3480 - 230);
+    const QStringList running{"espera", "disparar1"};
+    for (const QTimer *timer : game->findChildren<QTimer *>())
+        EXPECT_EQ(timer->isActive(), running.contains(timer->objectName()))
+            << qPrintable(timer->objectName());
+}
+
+TEST_F(NabesWindowTest, KeysReachTheGameAndModifiersRaiseTheShield)
+{
+    open();
+    EXPECT_EQ(fakes().dialogs.messages.size(), 1);
+    QTest::keyClick(game, Qt::Key_A); // shot b lines up with the enemy
+    EXPECT_EQ(get(game, "Label1")->text(), "5000");
+    QTest::keyClick(game, Qt::Key_Tab); // no focus chain: every key is the game's
+    EXPECT_TRUE(get(game, "flama1")->isVisible());
+
+    QTest::keyPress(game, Qt::Key_Shift);
+    EXPECT_TRUE(get(game, "shield")->isVisible());
+    EXPECT_EQ(get(game, "Label2")->text(), "1500");
+    QKeyEvent repeat(QEvent::KeyRelease, Qt::Key_Shift, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(game, &repeat);
+    EXPECT_TRUE(get(game, "shield")->isVisible());
+    QTest::keyRelease(game, Qt::Key_Shift, Qt::ShiftModifier);
+    EXPECT_FALSE(get(game, "shield")->isVisible());
+    EXPECT_EQ(game->state().shield.tag, "1499"); // the release itself costs nothing
+}
+
+TEST_F(NabesWindowTest, EndWindowsCloseTheGameAndOfferAnother)
+{
+    open();
+    ram();
+    EXPECT_TRUE(active("Timer1"));
+    EXPECT_TRUE(get(game, "explosion")->isVisible());
+    QTest::keyClick(game, Qt::Key_H);
+    EXPECT_EQ(fakes().desktop.endStatuses, QList<int>{0});
+    EXPECT_TRUE(active("Timer2"));
+
+    const QPointer<QTimer> timer1 = get<QTimer>(game, "Timer1");
+    game->timer2Timer();
+    EXPECT_EQ(forms().find(QStringLiteral("nabes")), nullptr);
+    EXPECT_TRUE(!timer1 || !timer1->isActive()); // no second end window
+    QWidget *won = forms().find(QStringLiteral("nabesg"));
+    ASSERT_NE(won, nullptr);
+    EXPECT_EQ(get(won, "Label1")->text(), "Ganaste...");
+
+    QTest::mouseClick(get<QPushButton>(won, "Command2"), Qt::LeftButton);
+    EXPECT_EQ(forms().find(QStringLiteral("nabesg")), nullptr);
+    open();
+    EXPECT_EQ(get(game, "Label1")->text(), "-");
+    ram();
+    game->timer1Timer();
+    QWidget *lost = forms().find(QStringLiteral("nabesp"));
+    ASSERT_NE(lost, nullptr);
+    EXPECT_EQ(get(lost, "Label1")->text(), "Perdiste...");
+    QTest::mouseClick(get<QPushButton>(lost, "Command7"), Qt::LeftButton);
+    EXPECT_EQ(forms().loadedNames(), QStringList());
+}
+
+} // namespace
+} // namespace zafro
