@@ -2,10 +2,14 @@
 // Run by hand: bench_nabes
 
 #include "games/nabes_state.h"
+#include "games/nabes_window.h"
 
 #include <benchmark/benchmark.h>
 
-namespace zafro::nabes {
+#include <QApplication>
+
+namespace zafro {
+using namespace nabes;
 namespace {
 
 // A key with a shot: both shots' whole flight and the hit tests, on a fresh game.
@@ -33,7 +37,25 @@ void balas(benchmark::State &state)
 }
 BENCHMARK(balas);
 
-} // namespace
-} // namespace zafro::nabes
+// The same two events through the window, which copies the state onto its pictures.
+void ventana(benchmark::State &state, void (*evento)(NabesWindow &))
+{
+    NabesWindow juego;
+    juego.show();
+    for (auto _ : state)
+        evento(juego);
+}
+BENCHMARK_CAPTURE(ventana, teclaConDisparo, [](NabesWindow &w) { w.formKeyDown(TeclaA, 0); });
+BENCHMARK_CAPTURE(ventana, balas, [](NabesWindow &w) { w.balasTimer(); });
 
-BENCHMARK_MAIN();
+} // namespace
+} // namespace zafro
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

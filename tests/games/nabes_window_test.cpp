@@ -3,6 +3,7 @@
 #include "shell/forms.h"
 #include "shell/language.h"
 #include "shell/settings.h"
+#include "shell/skins.h"
 
 #include <gtest/gtest.h>
 
@@ -79,8 +80,14 @@ TEST_F(NabesWindowTest, KeysReachTheGameAndModifiersRaiseTheShield)
     EXPECT_EQ(game->state().shield.tag, "1499"); // the release itself costs nothing
 }
 
-TEST_F(NabesWindowTest, EndWindowsCloseTheGameAndOfferAnother)
+TEST_F(NabesWindowTest, FromTheLauncherWonLostAndPlayedAgain)
 {
+    writeConfig(QStringLiteral("Visitado"), QStringLiteral("5"));
+    guardarSkin(1);
+    QWidget *index = forms().show(QStringLiteral("index"));
+    writeConfig(QStringLiteral("idioma"), QStringLiteral("1"));
+    QTest::mouseClick(get(index, "Labelcom10a"), Qt::LeftButton);
+    ASSERT_NE(findForm<NabesWindow>(QStringLiteral("nabes")), nullptr);
     open();
     ram();
     EXPECT_TRUE(active("Timer1"));
@@ -107,7 +114,7 @@ TEST_F(NabesWindowTest, EndWindowsCloseTheGameAndOfferAnother)
     ASSERT_NE(lost, nullptr);
     EXPECT_EQ(get(lost, "Label1")->text(), "Perdiste...");
     QTest::mouseClick(get<QPushButton>(lost, "Command7"), Qt::LeftButton);
-    EXPECT_EQ(forms().loadedNames(), QStringList());
+    EXPECT_EQ(forms().loadedNames(), QStringList{"index"});
 }
 
 } // namespace
