@@ -171,7 +171,8 @@ NabesWindow::NabesWindow()
     adelante_ =
         makeTimer(this, QStringLiteral("adelante"), 1, t.adelante, [this] { adelanteTimer(); });
     balas_ = makeTimer(this, QStringLiteral("balas"), 3000, t.balas, [this] { balasTimer(); });
-    misiles_ = makeTimer(this, QStringLiteral("misiles"), 0, false, [] {});
+    misiles_ = new QTimer(this); // kept: never started and with nothing to do
+    misiles_->setObjectName(QStringLiteral("misiles"));
     timer1_ = makeTimer(this, QStringLiteral("Timer1"), 1500, t.timer1, [this] { timer1Timer(); });
     timer2_ = makeTimer(this, QStringLiteral("Timer2"), 1500, t.timer2, [this] { timer2Timer(); });
     centreOnScreen();
