@@ -1,5 +1,4 @@
-// The game's work in one event, the pictures' update included, which must stay far
-// below the 1 ms timers' period. Run by hand: bench_nabes
+// One event of the game with its pictures' update, far below 1 ms. Run by hand.
 
 #include "games/nabes_window.h"
 

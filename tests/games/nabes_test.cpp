@@ -82,8 +82,6 @@ const Case kCases[] = {
          EXPECT_TRUE(s.label1 + s.boss.tag == "49804960" && s.explosion1.visible &&
                      s.explosion2.visible);
      }},
-    {"ShieldCostsOneAfterItsCounter", keyAt(3480, 4200, TeclaArriba, 1),
-     [](const S &s) { EXPECT_TRUE(s.label2 + s.shield.tag == "15001499" && s.shield.visible); }},
     {"KeyAfterVictoryAlsoArmsDefeat", keysWithLife("0", 2),
      [](const S &s) { EXPECT_TRUE(s.timers.timer1 && s.timers.timer2); }},
     {"SpentShieldStaysUpForFree",

@@ -23,11 +23,9 @@ class NabesWindowTest : public ::testing::Test {
 protected:
     void SetUp() override { writeConfig(QStringLiteral("idioma"), QStringLiteral("1")); }
     void open() { game = qobject_cast<NabesWindow *>(forms().show(QStringLiteral("nabes"))); }
-    template <typename T = QLabel> T *get(QWidget *w, const char *name)
+    template <typename T = QLabel> T *get(QWidget *w, const char *n)
     {
-        T *found = w->findChild<T *>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
+        return w->findChild<T *>(QLatin1String(n));
     }
     bool active(const char *timer) { return get<QTimer>(game, timer)->isActive(); }
     void ram() // flies straight into the enemy; the key that touches it ends the game
@@ -61,6 +59,7 @@ TEST_F(NabesWindowTest, KeysReachTheGameAndModifiersRaiseTheShield)
 
     QTest::keyPress(game, Qt::Key_Shift);
     EXPECT_TRUE(get(game, "shield")->isVisible());
+    EXPECT_EQ(get(game, "Label2")->text(), "1500"); // written before the shield's cost
     QKeyEvent repeat(QEvent::KeyRelease, Qt::Key_Shift, Qt::NoModifier, QString(), true);
     QCoreApplication::sendEvent(game, &repeat);
     EXPECT_TRUE(get(game, "shield")->isVisible());
@@ -83,20 +82,16 @@ TEST_F(NabesWindowTest, FromTheLauncherWonLostAndPlayedAgain)
 
     const QPointer<QTimer> timer1 = get<QTimer>(game, "Timer1");
     game->timer2Timer();
-    EXPECT_EQ(forms().find(QStringLiteral("nabes")), nullptr);
     EXPECT_TRUE(!timer1 || !timer1->isActive()); // no second end window
-    QWidget *won = forms().find(QStringLiteral("nabesg"));
-    ASSERT_NE(won, nullptr);
-
-    QTest::mouseClick(get<QPushButton>(won, "Command2"), Qt::LeftButton);
-    EXPECT_EQ(forms().find(QStringLiteral("nabesg")), nullptr);
-    open();
+    ASSERT_EQ(forms().loadedNames(), (QStringList{"index", "nabesg"}));
+    QTest::mouseClick(get<QPushButton>(forms().find("nabesg"), "Command2"), Qt::LeftButton);
+    ASSERT_EQ(forms().loadedNames(), (QStringList{"index", "nabes"}));
+    game = findForm<NabesWindow>(QStringLiteral("nabes"));
     EXPECT_EQ(get(game, "Label1")->text(), "-");
     ram();
     game->timer1Timer();
-    QWidget *lost = forms().find(QStringLiteral("nabesp"));
-    ASSERT_NE(lost, nullptr);
-    QTest::mouseClick(get<QPushButton>(lost, "Command7"), Qt::LeftButton);
+    ASSERT_EQ(forms().loadedNames(), (QStringList{"index", "nabesp"}));
+    QTest::mouseClick(get<QPushButton>(forms().find("nabesp"), "Command7"), Qt::LeftButton);
     EXPECT_EQ(forms().loadedNames(), QStringList{"index"});
 }
 
