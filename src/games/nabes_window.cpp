@@ -111,7 +111,7 @@ bool mismaVista(const Picture &x, const Picture &y)
 
 } // namespace
 
-NabesWindow::NabesWindow()
+NabesWindow::NabesWindow() : estrellas_(dibujo(QStringLiteral("estrellas")))
 {
     setWindowTitle(kTitulo);
     resizeTwips(nabes::kAncho, nabes::kAlto);
@@ -213,10 +213,9 @@ bool NabesWindow::event(QEvent *event)
 
 void NabesWindow::paintEvent(QPaintEvent *)
 {
-    static const QPixmap estrellas = dibujo(QStringLiteral("estrellas"));
     QPainter painter(this);
     painter.fillRect(rect(), Qt::black);
-    painter.drawPixmap(rect(), estrellas);
+    painter.drawPixmap(rect(), estrellas_);
 }
 
 void NabesWindow::formKeyDown(int keyCode, int shift)

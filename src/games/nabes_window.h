@@ -3,6 +3,8 @@
 #include "games/nabes_state.h"
 #include "shell/form.h"
 
+#include <QPixmap>
+
 #include <array>
 
 class QLabel;
@@ -41,6 +43,7 @@ private:
     void mirror();
     void mirrorTimer(QTimer *timer, bool enabled);
 
+    QPixmap estrellas_;
     nabes::NabesState state_;
     std::array<QLabel *, 16> pictures_{};
     std::array<nabes::Picture, 16> shown_{};
