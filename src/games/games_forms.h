@@ -1,7 +1,8 @@
 #pragma once
 
-// The games: Tres en raya (tresenraya, with its help window tresenrayaayuda) and
-// Parejas (parejass).
+// The games: Tres en raya (tresenraya, with its help window tresenrayaayuda), Parejas
+// (parejass) and La conquista de Jupiter (nabes, with its end windows nabesg and
+// nabesp).
 //
 // Each game keeps its rules apart from its window: tresenraya.h holds the board
 // state and the click, undo and line steps of Tres en raya, parejas.h the shuffle

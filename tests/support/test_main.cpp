@@ -46,6 +46,7 @@ class FreshWorld : public ::testing::EmptyTestEventListener {
 #ifdef ZAFRO_TEST_UI
         forms().unloadAll();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        registerForms(); // a test may have put a stand-in under a tool's name
 #endif
         useSettingsFile(QString());
         storeDir.reset();
