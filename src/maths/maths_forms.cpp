@@ -3,6 +3,8 @@
 #include "maths/bisiesto_window.h"
 #include "maths/calculadora_window.h"
 #include "maths/matrices_window.h"
+#include "maths/numletras_window.h"
+#include "maths/pi_window.h"
 #include "maths/radian_window.h"
 #include "maths/romanos_window.h"
 #include "maths/temperatura_window.h"
@@ -21,6 +23,8 @@ void registerMathsForms()
     f.registerForm(QStringLiteral("temperatura"), [] { return new TemperaturaWindow; });
     f.registerForm(QStringLiteral("bisiesto"), [] { return new BisiestoWindow; });
     f.registerForm(QStringLiteral("matrices"), [] { return new MatricesWindow; });
+    f.registerForm(QStringLiteral("numletras"), [] { return new NumletrasWindow; });
+    f.registerForm(QStringLiteral("pi"), [] { return new PiWindow; });
 }
 
 } // namespace zafro
