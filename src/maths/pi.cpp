@@ -7,6 +7,7 @@
 #include <QMetaObject>
 
 #include <algorithm>
+#include <exception>
 #include <limits>
 #include <new>
 
@@ -19,18 +20,25 @@ constexpr quint32 kBase = 10000;
 constexpr quint32 kDivisorSeguro = 214748;
 constexpr qint32 kMaxCifras = 1000000;
 // Terms run in one pass over the groups while the end is far.
-constexpr int kTerminosPorPasada = 8;
+constexpr int kTerminosPorPasada = 16;
 
-__extension__ typedef unsigned __int128 U128;
-
-// Division by a fixed divisor through its reciprocal: exact for every 32-bit
-// dividend, and some times cheaper than the hardware division.
+// Division by a fixed odd divisor through a reciprocal: for every dividend below 2^31
+// the quotient is the product by m shifted right, with m below 2^32, so one 64-bit
+// multiplication does the work of a hardware division.
 struct Divisor {
-    quint64 m = 0;
+    quint64 m = 1;
+    int desplazamiento = 31;
     quint32 d = 1;
     Divisor() = default;
-    explicit Divisor(quint32 divisor) : m(~quint64(0) / divisor + 1), d(divisor) {}
-    quint32 cociente(quint32 n) const { return quint32(U128(m) * n >> 64); }
+    explicit Divisor(quint32 divisor) : d(divisor)
+    {
+        int bits = 0;
+        while ((quint64(1) << bits) < divisor)
+            ++bits;
+        desplazamiento = 31 + bits;
+        m = ((quint64(1) << desplazamiento) + divisor - 1) / divisor;
+    }
+    quint32 cociente(quint32 n) const { return quint32((n * m) >> desplazamiento); }
 };
 
 // The state of K consecutive terms travelling down the groups together.
@@ -160,14 +168,14 @@ int saltarCeros(const qint32 *termino, int inicio, int ultimo)
 class Progreso {
 public:
     explicit Progreso(const std::function<void(int)> &aviso) : aviso_(aviso) {}
-    // The work of a round shrinks with the groups still ahead of Inicio; the first
-    // series takes about two thirds of the whole.
-    void avisar(int base, int parte, int inicio, int grupos)
+    // The work of a round shrinks with the groups still ahead of Inicio. The series in
+    // 1/5 is the longer one and tells the progress of both; 100 waits for the sum.
+    void avisar(int inicio, int grupos)
     {
         if (!aviso_)
             return;
         const double resto = 1.0 - double(std::min(inicio, grupos)) / grupos;
-        const int valor = base + int(parte * (1.0 - resto * resto));
+        const int valor = int(96 * (1.0 - resto * resto));
         if (valor != ultimo_)
             aviso_(ultimo_ = valor);
     }
@@ -176,11 +184,6 @@ private:
     const std::function<void(int)> &aviso_;
     int ultimo_ = -1;
 };
-
-bool parado(const std::atomic<bool> *parar)
-{
-    return parar && parar->load(std::memory_order_relaxed);
-}
 
 } // namespace
 
@@ -195,16 +198,16 @@ PiTamano tamanoPi(double digitos)
     return t;
 }
 
-bool calcularSumaPi(qint32 grupos, std::vector<qint32> &suma, const std::atomic<bool> *parar,
-                    const std::function<void(int)> &progreso)
+namespace {
+
+// arctan(1/5) times 16 into suma: 3.2, then two powers of 1/5 per round. False when
+// stopped.
+bool serieCinco(qint32 grupos, qint32 *s, const std::function<bool()> &parado,
+                const std::function<void(int)> &progreso)
 {
     std::vector<qint32> terminoV(size_t(grupos) + 2, 0);
-    suma.assign(size_t(grupos) + 2, 0);
     qint32 *termino = terminoV.data();
-    qint32 *s = suma.data();
     Progreso aviso(progreso);
-
-    // arctan(1/5) times 16: 3.2, then two powers of 1/5 per round.
     int inicio = 1;
     int fin = 2;
     termino[1] = 3;
@@ -213,9 +216,9 @@ bool calcularSumaPi(qint32 grupos, std::vector<qint32> &suma, const std::atomic<
     s[2] += 2000;
     quint32 divisor = 3;
     while (inicio < grupos) {
-        if (parado(parar))
+        if (parado())
             return false;
-        aviso.avisar(0, 66, inicio, grupos);
+        aviso.avisar(inicio, grupos);
         // Inicio moves at most one group a term: a whole pass stays short of the end.
         const bool lejos = inicio + kTerminosPorPasada < grupos && inicio <= fin;
         if (lejos && !necesitaComprobar<kTerminosPorPasada>(divisor))
@@ -229,8 +232,15 @@ bool calcularSumaPi(qint32 grupos, std::vector<qint32> &suma, const std::atomic<
         divisor += lejos ? 2 * kTerminosPorPasada : 4;
         inicio = saltarCeros(termino, inicio, grupos + 1);
     }
+    return true;
+}
 
-    // arctan(1/239) times 4, subtracted: 4/239 first, then two powers of 1/239 a round.
+// arctan(1/239) times 4, subtracted from suma: 4/239 first, then two powers of 1/239
+// a round.
+bool serieDoscientos(qint32 grupos, qint32 *s, const std::function<bool()> &parado)
+{
+    std::vector<qint32> terminoV(size_t(grupos) + 2, 0);
+    qint32 *termino = terminoV.data();
     quint32 resto = 4;
     for (int i = 2; i <= grupos; ++i) {
         const quint32 x = resto * kBase;
@@ -238,13 +248,12 @@ bool calcularSumaPi(qint32 grupos, std::vector<qint32> &suma, const std::atomic<
         resto = x % 239;
         s[i] -= termino[i];
     }
-    inicio = 2;
-    divisor = 3;
+    int inicio = 2;
+    quint32 divisor = 3;
     constexpr int kRondas = kTerminosPorPasada / 2;
     while (inicio < grupos) {
-        if (parado(parar))
+        if (parado())
             return false;
-        aviso.avisar(66, 34, inicio, grupos);
         // Inicio moves at most two groups a term here.
         const bool lejos = inicio + 4 * kRondas + 2 < grupos;
         if (lejos) {
@@ -261,7 +270,51 @@ bool calcularSumaPi(qint32 grupos, std::vector<qint32> &suma, const std::atomic<
         }
         inicio = saltarCeros(termino, inicio, grupos);
     }
+    return true;
+}
 
+} // namespace
+
+bool calcularSumaPi(qint32 grupos, std::vector<qint32> &suma, const std::atomic<bool> *parar,
+                    const std::function<void(int)> &progreso)
+{
+    // The two series share nothing but the final sum, so the second runs beside the
+    // first on a thread of its own and adds its groups at the end.
+    suma.assign(size_t(grupos) + 2, 0);
+    std::vector<qint32> sumaDoscientos(size_t(grupos) + 2, 0);
+    std::atomic<bool> abandonar{false};
+    const std::function<bool()> parado = [&] {
+        return abandonar.load(std::memory_order_relaxed) ||
+               (parar && parar->load(std::memory_order_relaxed));
+    };
+    std::exception_ptr falloDoscientos;
+    bool completaDoscientos = false;
+    std::thread doscientos([&] {
+        try {
+            completaDoscientos = serieDoscientos(grupos, sumaDoscientos.data(), parado);
+        } catch (...) {
+            falloDoscientos = std::current_exception();
+        }
+    });
+    bool completa = false;
+    try {
+        completa = serieCinco(grupos, suma.data(), parado, progreso);
+    } catch (...) {
+        abandonar = true;
+        doscientos.join();
+        throw;
+    }
+    if (!completa)
+        abandonar = true;
+    doscientos.join();
+    if (falloDoscientos)
+        std::rethrow_exception(falloDoscientos);
+    if (!completa || !completaDoscientos)
+        return false;
+
+    qint32 *s = suma.data();
+    for (int i = 1; i <= grupos + 1; ++i)
+        s[i] += sumaDoscientos[size_t(i)];
     // Carry pass: every group into 0 to 9999.
     for (int i = grupos; i >= 1; --i) {
         const qint32 v = s[i];
@@ -274,7 +327,8 @@ bool calcularSumaPi(qint32 grupos, std::vector<qint32> &suma, const std::atomic<
         s[i] -= c * 10000;
         s[i - 1] += c;
     }
-    aviso.avisar(66, 34, grupos, grupos);
+    if (progreso)
+        progreso(100);
     return true;
 }
 
