@@ -1,6 +1,6 @@
-// The digits of pi, computed and printed. Run by hand: bench_pi, or scripts/bench-pi to
-// set it against bc.
+// Pi computed and printed, the longest numbers spelled; by hand or by scripts/bench-pi.
 
+#include "maths/numeros.h"
 #include "maths/pi.h"
 
 #include <benchmark/benchmark.h>
@@ -17,7 +17,21 @@ void digitosDePi(benchmark::State &state)
         benchmark::DoNotOptimize(imprimirPi(suma, tamano.grupos));
     }
 }
-BENCHMARK(digitosDePi)->Arg(5000)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(digitosDePi)->Arg(5000)->Arg(100000)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void nroEnLetrasTrece(benchmark::State &state)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(NroEnLetras(9999999999999));
+}
+BENCHMARK(nroEnLetrasTrece);
+
+void englishWordsTrece(benchmark::State &state)
+{
+    for (auto _ : state)
+        benchmark::DoNotOptimize(EnglishWords(QStringLiteral("9999999999999")));
+}
+BENCHMARK(englishWordsTrece);
 
 } // namespace
 } // namespace zafro

@@ -1,5 +1,4 @@
-// The ceiling of the 32-bit arithmetic: whole runs of 150000 digits and more, which
-// take seconds.
+// Whole runs at the ceiling of the 32-bit arithmetic, which take seconds.
 
 #include "error_number.h"
 #include "maths/pi.h"
@@ -14,7 +13,6 @@ TEST(PiTecho, OneHundredFiftyThousandDigitsFinishAndOneHundredFiftyOneThousandOv
     std::vector<qint32> suma;
     const PiTamano tamano = tamanoPi(150000);
     EXPECT_EQ(test::errorNumber([&] { calcularSumaPi(tamano.grupos, suma); }), 0);
-    EXPECT_TRUE(imprimirPi(suma, tamano.grupos).startsWith(QStringLiteral(" PI = 3, \n 141 592")));
     EXPECT_EQ(test::errorNumber([&] { calcularSumaPi(tamanoPi(151000).grupos, suma); }), 6);
 }
 
