@@ -27,12 +27,10 @@ TEST(NroEnLetras, SpellsEveryStepWithItsBlanksAndBrackets)
     } rows[] = {{"cero", 0, "CERO"},
                 {"medio", 0.5, "CERO CON 50/100"},
                 {"entreMenosUnoYCeroSinCero", -0.5, " CON 50/100"},
-                {"diez", 10, "DIEZ"},
                 {"veintidos", 22, "VEINTIDOS"},
                 {"treintaYUno", 31, "TREINTA Y UNO"},
                 {"noventaYNueve", 99, "NOVENTA Y NUEVE"},
                 {"cientoQuince", 115, "CIENTO QUINCE"},
-                {"cientoVeinte", 120, "CIENTO VEINTE"},
                 {"centenaSola", 300, "TRESCIENTOS "},
                 {"milConUn", 1000, "UN MIL "},
                 {"veintiunMil", 21000, "VEINTIUN MIL "},
@@ -60,7 +58,6 @@ TEST(EnglishWords, KeepsTheWordsBlanksAndGroupsAsTheyAre)
         const char *value;
         const char *words;
     } rows[] = {
-        {"empty", "", ""},
         {"notANumber", "abc", "Non Numeric text"},
         {"twelveWithLeadingBlanks", "12", "   Twelve"},
         {"elevan", "11", "   Elevan"},
@@ -72,7 +69,6 @@ TEST(EnglishWords, KeepsTheWordsBlanksAndGroupsAsTheyAre)
         {"hundredLowerCase", "1000000000", "One hundred  millions      "},
         {"leadingMinus", "-5", " Minus    Five"},
         {"trailingMinusDropped", "5-", "   Five"},
-        {"tooLarge", "10000000000", "More than 999 millions"},
         {"exponent", "1E+15", "More than 999 millions"}};
     const ScopedDecimalMark point(QLatin1Char('.'));
     for (const auto &row : rows)
