@@ -8,6 +8,7 @@
 #include "runtime/numtext.h"
 #include "runtime/runtime_error.h"
 #include "shell/language.h"
+#include "shell/skin_sample.h"
 #include "shell/toolframe.h"
 
 #include <QFontDatabase>
@@ -74,6 +75,10 @@ void PiWindow::formLoad()
 {
     frame_ = new ToolFrame(this);
     frame_->paint();
+    // The frame paints line edits only; the result box is a text box too.
+    setPaletteRole(text2_, QPalette::Text, skinColour(QStringLiteral("ForeColor")));
+    setPaletteRole(text2_, QPalette::Base, skinColour(QStringLiteral("BackColor")));
+    setPaletteRole(text2_, QPalette::Window, text2_->palette().color(QPalette::Text));
     // The title has always read with one blank, unlike the launcher's label.
     label10_->setText(QStringLiteral("Generar PI"));
     label2_->setText(texto(slot::PiSelecciona));
