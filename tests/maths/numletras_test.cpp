@@ -61,6 +61,7 @@ TEST(EnglishWords, KeepsTheWordsBlanksAndGroupsAsTheyAre)
         {"notANumber", "abc", "Non Numeric text"},
         {"twelveWithLeadingBlanks", "12", "   Twelve"},
         {"elevan", "11", "   Elevan"},
+        {"fifteenLowerCase", "15", "   fifteen"},
         {"ninteen", "19", "   Ninteen"},
         {"thousandTrailingBlanks", "1000", "One Thousand   "},
         {"allGroups", "1234", "One Thousand Two Hundred Thirty Four"},
