@@ -6,6 +6,8 @@
 #include "maths/diferencial_window.h"
 #include "maths/loga_window.h"
 #include "maths/matrices_window.h"
+#include "maths/numletras_window.h"
+#include "maths/pi_window.h"
 #include "maths/prestamo_window.h"
 #include "maths/radian_window.h"
 #include "maths/romanos_window.h"
@@ -33,6 +35,8 @@ void registerMathsForms()
     f.registerForm(QStringLiteral("loga"), [] { return new LogaWindow; });
     f.registerForm(QStringLiteral("areas"), [] { return new AreasWindow; });
     f.registerForm(QStringLiteral("prestamo"), [] { return new PrestamoWindow; });
+    f.registerForm(QStringLiteral("numletras"), [] { return new NumletrasWindow; });
+    f.registerForm(QStringLiteral("pi"), [] { return new PiWindow; });
 }
 
 } // namespace zafro

@@ -1,0 +1,1 @@
+list(APPEND MATHS_TEST_SOURCES ${CMAKE_CURRENT_LIST_DIR}/numletras_test.cpp)
