@@ -18,6 +18,7 @@
 #include "shell/launcher_hooks.h"
 #include "shell/nuevos_window.h"
 #include "shell/placeholder_window.h"
+#include "signals/signals_forms.h"
 
 namespace zafro {
 
@@ -36,6 +37,7 @@ void registerForms()
     registerGraphForms();
     registerPlatesForms();
     registerOnlineForms();
+    registerSignalsForms();
     launcherHooks().formulaBench = formulaBench;
     // Windows of the shell whose own behaviour comes later stand in with their name.
     for (const char *name : {"preferencias", "acercade", "limpia"}) {
