@@ -35,23 +35,23 @@ QScrollBar *scrollBar(QWidget *parent, int minimum, int maximum, int largeStep, 
 MorseWindow::MorseWindow()
     : player_(new TonePlayer(this)),
       label1_(place(new QLabel(this), "Label1", 120, 120, 7080, 540)),
-      label2_(place(new QLabel(this), "Label2", 3840, 3720, 3240, 255)),
-      label3_(place(new QLabel(this), "Label3", 240, 1995, 1440, 300)),
-      lblFreq_(place(new QLabel(this), "lblFreq", 240, 3720, 3240, 255)),
-      txttext_(place(new QLineEdit(this), "txttext", 240, 1320, 6840, 405)),
-      txtmorse_(place(new QLineEdit(this), "txtmorse", 240, 2640, 6840, 405)),
-      cmdcode_(place(new QPushButton(this), "cmdcode", 1740, 1920, 1560, 435)),
-      cmddecode_(place(new QPushButton(this), "cmddecode", 3420, 1920, 1560, 435)),
-      command1_(place(new QPushButton(this), "Command1", 5340, 1920, 1740, 435)),
-      command2_(place(new QPushButton(this), "Command2", 240, 4620, 2160, 435)),
-      command7_(place(new QPushButton(this), "Command7", 2580, 4620, 2160, 435)),
-      command8_(place(new QPushButton(this), "Command8", 4920, 4620, 2160, 435)),
-      hsFreq_(place(scrollBar(this, 0, 20000, 200, 2100), "hsFreq", 240, 4020, 3240, 255)),
-      hScroll1_(place(scrollBar(this, 1500, 4500, 50, 3000), "HScroll1", 3840, 4020, 3240, 255)),
+      label2_(place(new QLabel(this), "Label2", 3840, 2760, 3240, 255)),
+      label3_(place(new QLabel(this), "Label3", 240, 1515, 1440, 300)),
+      lblFreq_(place(new QLabel(this), "lblFreq", 240, 2760, 3240, 255)),
+      txttext_(place(new QLineEdit(this), "txttext", 240, 840, 6840, 405)),
+      txtmorse_(place(new QLineEdit(this), "txtmorse", 240, 2070, 6840, 405)),
+      cmdcode_(place(new QPushButton(this), "cmdcode", 1740, 1440, 1560, 435)),
+      cmddecode_(place(new QPushButton(this), "cmddecode", 3420, 1440, 1560, 435)),
+      command1_(place(new QPushButton(this), "Command1", 5340, 1440, 1740, 435)),
+      command2_(place(new QPushButton(this), "Command2", 240, 3600, 2160, 435)),
+      command7_(place(new QPushButton(this), "Command7", 2580, 3600, 2160, 435)),
+      command8_(place(new QPushButton(this), "Command8", 4920, 3600, 2160, 435)),
+      hsFreq_(place(scrollBar(this, 0, 20000, 200, 2100), "hsFreq", 240, 3060, 3240, 255)),
+      hScroll1_(place(scrollBar(this, 1500, 4500, 50, 3000), "HScroll1", 3840, 3060, 3240, 255)),
       timer2_(makeTimer(this, QStringLiteral("Timer2"), 100, false, [this] { timer2Timer(); }))
 {
     setWindowTitle(QStringLiteral("Zafro Suite"));
-    resizeTwips(7320, 5400);
+    resizeTwips(7320, 4320);
     label1_->setAlignment(Qt::AlignCenter);
     setBold(label1_, 14);
     for (QLineEdit *box : {txttext_, txtmorse_}) {

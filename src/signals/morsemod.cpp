@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace zafro {
 
@@ -11,7 +12,8 @@ namespace {
 
 struct CodigoMorse {
     char16_t caracter;
-    const char16_t *codigo;
+    std::u16string_view codigo;
+    QStringView vista() const { return QStringView(codigo.data(), qsizetype(codigo.size())); }
 };
 
 // kept: "(" and ")" share a code; "(" stands first, so it is what decodes.
@@ -47,7 +49,7 @@ QString TextoAMorse(const QString &text)
         const auto *entrada = std::find_if(kTabla.begin(), kTabla.end(),
                                            [c](const CodigoMorse &e) { return e.caracter == c; });
         if (entrada != kTabla.end())
-            morse += QStringView(entrada->codigo);
+            morse += entrada->vista();
         else
             morse += c;
     }
@@ -68,7 +70,7 @@ QString MorseATexto(const QString &code)
                 continue;
             const QStringView candidato = resto.mid(i, largo);
             for (const CodigoMorse &e : kTabla)
-                if (candidato == QStringView(e.codigo)) {
+                if (qsizetype(e.codigo.size()) == largo && candidato == e.vista()) {
                     text += QChar(e.caracter);
                     i += largo;
                     hallado = true;
