@@ -4,37 +4,22 @@
 
 #include <benchmark/benchmark.h>
 
-namespace zafro {
-namespace {
+static const QString kTexto =
+    QStringLiteral("Zafro Suite 4.6, (prueba) ¿sí? ").repeated(4000).left(100000);
 
-const QString &textoLargo()
-{
-    static const QString texto = [] {
-        const QString frase = QStringLiteral("Zafro Suite 4.6, (prueba) ¿sí? ");
-        QString t;
-        while (t.size() < 100000)
-            t += frase;
-        return t.left(100000);
-    }();
-    return texto;
-}
-
-void BM_TextoAMorse(benchmark::State &state)
+static void BM_TextoAMorse(benchmark::State &state)
 {
     for (auto _ : state)
-        benchmark::DoNotOptimize(TextoAMorse(textoLargo()));
+        benchmark::DoNotOptimize(zafro::TextoAMorse(kTexto));
 }
+
+static void BM_MorseATexto(benchmark::State &state)
+{
+    const QString code = zafro::TextoAMorse(kTexto);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(zafro::MorseATexto(code));
+}
+
 BENCHMARK(BM_TextoAMorse)->Unit(benchmark::kMillisecond);
-
-void BM_MorseATexto(benchmark::State &state)
-{
-    const QString code = TextoAMorse(textoLargo());
-    for (auto _ : state)
-        benchmark::DoNotOptimize(MorseATexto(code));
-}
 BENCHMARK(BM_MorseATexto)->Unit(benchmark::kMillisecond);
-
-} // namespace
-} // namespace zafro
-
 BENCHMARK_MAIN();

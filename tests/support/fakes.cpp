@@ -52,18 +52,6 @@ void FakeSound::beep(int frequency, int milliseconds)
     --playing;
 }
 
-void FakeSound::playSound(const QString &buffer, int flags)
-{
-    const std::lock_guard lock(mutex_);
-    sounds << qMakePair(buffer, flags);
-}
-
-QList<QPair<int, int>> FakeSound::beepsSoFar() const
-{
-    const std::lock_guard lock(mutex_);
-    return beeps;
-}
-
 void FakeSound::releaseBeeps()
 {
     {

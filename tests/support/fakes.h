@@ -94,13 +94,14 @@ public:
     ClassicRandom classic;
 };
 
-// Beeps may come from a tone player's worker thread: read `beeps` directly only
-// once no player runs, beepsSoFar() while one may.
+// Beeps come from a worker: read `beeps` after the tone's end or `playing` rising.
 class FakeSound : public Sound {
 public:
     void beep(int frequency, int milliseconds) override;
-    void playSound(const QString &buffer, int flags) override;
-    QList<QPair<int, int>> beepsSoFar() const;
+    void playSound(const QString &buffer, int flags) override
+    {
+        sounds << qMakePair(buffer, flags);
+    }
     void releaseBeeps(); // ends the held ones
 
     QList<QPair<int, int>> beeps;
@@ -111,7 +112,7 @@ public:
     std::atomic<int> mostAtOnce = 0;
 
 private:
-    mutable std::mutex mutex_;
+    std::mutex mutex_;
     std::condition_variable released_;
 };
 
