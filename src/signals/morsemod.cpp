@@ -35,6 +35,35 @@ constexpr std::array<CodigoMorse, 48> kTabla{{
 constexpr QChar kBarra = u'/';
 constexpr QChar kBlanco = u' ';
 
+// The dots and dashes of a code as bits (a dash is 1); -1 for any other character.
+int marcasEnBits(QStringView marcas)
+{
+    int bits = 0;
+    for (const QChar m : marcas) {
+        if (m != u'.' && m != u'-')
+            return -1;
+        bits = bits * 2 + (m == u'-');
+    }
+    return bits;
+}
+
+// The character of each code by its number of marks and their bits; the first in
+// the table wins.
+const std::array<std::array<char16_t, 128>, 8> &caracterPorMarcas()
+{
+    static const auto tabla = [] {
+        std::array<std::array<char16_t, 128>, 8> t{};
+        for (const CodigoMorse &e : kTabla) {
+            const QStringView marcas = e.vista().chopped(1);
+            char16_t &c = t[marcas.size()][marcasEnBits(marcas)];
+            if (c == 0)
+                c = e.caracter;
+        }
+        return t;
+    }();
+    return tabla;
+}
+
 } // namespace
 
 QString TextoAMorse(const QString &text)
@@ -68,14 +97,12 @@ QString MorseATexto(const QString &code)
             // Every code ends in "/": only a candidate that does can match.
             if (i + largo > resto.size() || resto[i + largo - 1] != kBarra)
                 continue;
-            const QStringView candidato = resto.mid(i, largo);
-            for (const CodigoMorse &e : kTabla)
-                if (qsizetype(e.codigo.size()) == largo && candidato == e.vista()) {
-                    text += QChar(e.caracter);
-                    i += largo;
-                    hallado = true;
-                    break;
-                }
+            const int bits = marcasEnBits(resto.mid(i, largo - 1));
+            if (bits >= 0 && caracterPorMarcas()[largo - 1][bits] != 0) {
+                text += QChar(caracterPorMarcas()[largo - 1][bits]);
+                i += largo;
+                hallado = true;
+            }
         }
         if (hallado)
             continue;
