@@ -21,7 +21,9 @@
 #include "shell/launcher_hooks.h"
 #include "shell/limpia_window.h"
 #include "shell/nuevos_window.h"
+#include "shell/placeholder_window.h"
 #include "shell/preferencias_window.h"
+#include "signals/signals_forms.h"
 
 namespace zafro {
 
@@ -45,6 +47,7 @@ void registerForms()
     registerOnlineForms();
     registerIdentifierForms();
     registerGamesForms();
+    registerSignalsForms();
     launcherHooks().formulaBench = formulaBench;
 }
 

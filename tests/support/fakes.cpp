@@ -1,5 +1,9 @@
 #include "fakes.h"
 
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
 namespace zafro::test {
 
 int FakeDialogs::msgBox(const QString &text, int style, const QString &title)
@@ -34,6 +38,27 @@ float FakeClock::timer() const
     const float now = seconds + timerAdvance_;
     timerAdvance_ += timerStep;
     return now;
+}
+
+void FakeSound::beep(int frequency, int milliseconds)
+{
+    std::unique_lock lock(mutex_);
+    beeps << qMakePair(frequency, milliseconds);
+    mostAtOnce = std::max(mostAtOnce.load(), ++playing);
+    released_.wait_for(lock, std::chrono::seconds(10), [this] { return !hold; });
+    lock.unlock();
+    if (realWait)
+        std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    --playing;
+}
+
+void FakeSound::releaseBeeps()
+{
+    {
+        const std::lock_guard lock(mutex_);
+        hold = false;
+    }
+    released_.notify_all();
 }
 
 } // namespace zafro::test

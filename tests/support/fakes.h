@@ -12,6 +12,10 @@
 #include <QSet>
 #include <QStringList>
 
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+
 namespace zafro::test {
 
 struct MsgBoxCall {
@@ -90,19 +94,26 @@ public:
     ClassicRandom classic;
 };
 
+// Beeps come from a worker: read `beeps` after the tone's end or `playing` rising.
 class FakeSound : public Sound {
 public:
-    void beep(int frequency, int milliseconds) override
-    {
-        beeps << qMakePair(frequency, milliseconds);
-    }
+    void beep(int frequency, int milliseconds) override;
     void playSound(const QString &buffer, int flags) override
     {
         sounds << qMakePair(buffer, flags);
     }
+    void releaseBeeps(); // ends the held ones
 
     QList<QPair<int, int>> beeps;
     QList<QPair<QString, int>> sounds;
+    std::atomic<bool> realWait = false; // a beep lasts as long as it says, as the real one
+    std::atomic<bool> hold = false;     // a beep lasts until released (ten seconds at most)
+    std::atomic<int> playing = 0;       // beeps in progress now
+    std::atomic<int> mostAtOnce = 0;
+
+private:
+    std::mutex mutex_;
+    std::condition_variable released_;
 };
 
 // The fakes of the current test, installed into services() by the test main
