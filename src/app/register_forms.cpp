@@ -21,7 +21,6 @@
 #include "shell/launcher_hooks.h"
 #include "shell/limpia_window.h"
 #include "shell/nuevos_window.h"
-#include "shell/placeholder_window.h"
 #include "shell/preferencias_window.h"
 #include "signals/signals_forms.h"
 
