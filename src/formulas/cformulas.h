@@ -85,8 +85,8 @@ public:
     // c=b*b*b:...") would otherwise run for ages; the original set no bound at all.
     // The budget lies far above any practical formula and grows with the square of the
     // length, as the rewriting of a long text may do.
-    static constexpr qint64 kTrabajoBase = 1'000'000;
-    static constexpr qint64 kTrabajoPorCaracterCuadrado = 8;
+    static constexpr qint64 kTrabajoBase = 600'000;
+    static constexpr qint64 kTrabajoPorCaracterCuadrado = 4;
     // The work the last Formula did, in the budget's units.
     qint64 trabajoRealizado() const { return gastado_; }
 

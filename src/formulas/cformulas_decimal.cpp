@@ -88,6 +88,22 @@ ScaledDecimal ScaledDecimal::fromRatio(Integer numerator, Integer denominator)
     return result;
 }
 
+ScaledDecimal ScaledDecimal::fromScaled(Integer numerator, int scale)
+{
+    // The same value fromRatio gives, reached the short way: a mantissa that fits needs
+    // no rounding, only its trailing zeros dropped.
+    if (scale < 0 || scale > kMaxScale || (numerator < 0 ? -numerator : numerator) >= limit())
+        return fromRatio(std::move(numerator), pow10(std::max(scale, 0)));
+    ScaledDecimal result;
+    while (scale > 0 && numerator != 0 && numerator % 10 == 0) {
+        numerator /= 10;
+        --scale;
+    }
+    result.scale_ = numerator == 0 ? 0 : scale;
+    result.mantissa_ = std::move(numerator);
+    return result;
+}
+
 ScaledDecimal ScaledDecimal::fromText(const QString &text)
 {
     qsizetype i = 0;
@@ -153,8 +169,8 @@ ScaledDecimal ScaledDecimal::fromText(const QString &text)
     if (negative)
         mantissa = -mantissa;
     if (exponent >= 0)
-        return fromRatio(mantissa * pow10(int(exponent)), Integer(1));
-    return fromRatio(mantissa, pow10(int(-exponent)));
+        return fromScaled(mantissa * pow10(int(exponent)), 0);
+    return fromScaled(mantissa, int(-exponent));
 }
 
 QString ScaledDecimal::toText() const
@@ -181,22 +197,20 @@ double ScaledDecimal::toDouble() const
 ScaledDecimal operator+(const ScaledDecimal &a, const ScaledDecimal &b)
 {
     const int scale = std::max(a.scale_, b.scale_);
-    return ScaledDecimal::fromRatio(a.mantissa_ * pow10(scale - a.scale_) +
-                                        b.mantissa_ * pow10(scale - b.scale_),
-                                    pow10(scale));
+    return ScaledDecimal::fromScaled(
+        a.mantissa_ * pow10(scale - a.scale_) + b.mantissa_ * pow10(scale - b.scale_), scale);
 }
 
 ScaledDecimal operator-(const ScaledDecimal &a, const ScaledDecimal &b)
 {
     const int scale = std::max(a.scale_, b.scale_);
-    return ScaledDecimal::fromRatio(a.mantissa_ * pow10(scale - a.scale_) -
-                                        b.mantissa_ * pow10(scale - b.scale_),
-                                    pow10(scale));
+    return ScaledDecimal::fromScaled(
+        a.mantissa_ * pow10(scale - a.scale_) - b.mantissa_ * pow10(scale - b.scale_), scale);
 }
 
 ScaledDecimal operator*(const ScaledDecimal &a, const ScaledDecimal &b)
 {
-    return ScaledDecimal::fromRatio(a.mantissa_ * b.mantissa_, pow10(a.scale_ + b.scale_));
+    return ScaledDecimal::fromScaled(a.mantissa_ * b.mantissa_, a.scale_ + b.scale_);
 }
 
 ScaledDecimal operator/(const ScaledDecimal &a, const ScaledDecimal &b)

@@ -49,6 +49,8 @@ private:
 
     // numerator / denominator (denominator > 0), rounded into the type.
     static ScaledDecimal fromRatio(Integer numerator, Integer denominator);
+    // numerator / 10^scale: exact, without a division, whenever it fits as it stands.
+    static ScaledDecimal fromScaled(Integer numerator, int scale);
 
     Integer mantissa_ = 0; // signed; |mantissa_| < 2^96
     int scale_ = 0;        // 0..28
