@@ -9,6 +9,8 @@
 #include "shell/skin_sample.h"
 #include "shell/skins.h"
 
+#include "window_test.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -25,7 +27,7 @@ namespace {
 
 using test::fakes;
 
-class IdentifierWindowTest : public ::testing::Test {
+class IdentifierWindowTest : public test::WindowTest {
 protected:
     void SetUp() override
     {
@@ -33,26 +35,6 @@ protected:
         CargarEspanol();
     }
 
-    void open(const char *name) { window = forms().show(QLatin1String(name)); }
-    template <typename T = QWidget> T *get(const char *name) const
-    {
-        T *found = window->findChild<T *>(QLatin1String(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
-    }
-    QString textOf(const char *name) const
-    {
-        if (auto *box = window->findChild<QLineEdit *>(QLatin1String(name)))
-            return box->text();
-        return get<QLabel>(name)->text();
-    }
-    void type(const char *box, const QString &text)
-    {
-        get<QLineEdit>(box)->clear();
-        QTest::keyClicks(get<QLineEdit>(box), text);
-    }
-    void click(const char *name) { QTest::mouseClick(get(name), Qt::LeftButton); }
-    void clickBackground() { QTest::mouseClick(window, Qt::LeftButton, {}, QPoint(3, 3)); }
     // Types a card number into the four check boxes and checks it.
     void check(const QString &numero)
     {
@@ -61,8 +43,6 @@ protected:
             get<QLineEdit>(boxes[i])->setText(numero.mid(i * 4, 4));
         click("Command4");
     }
-
-    QWidget *window = nullptr;
 };
 
 // Each tool opens from its launcher label, and a second click raises it as it is. With
