@@ -1,10 +1,10 @@
 #include "games/games_forms.h"
 
+#include "games/nabes_window.h"
+#include "games/nabesfin_window.h"
 #include "games/parejass_window.h"
 #include "games/tresenraya_window.h"
 #include "games/tresenrayaayuda_window.h"
-#include "games/nabes_window.h"
-#include "games/nabesfin_window.h"
 #include "shell/forms.h"
 
 namespace zafro {
