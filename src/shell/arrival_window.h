@@ -26,6 +26,7 @@ public:
 
     int leftTwips() const { return leftTwips_; }
     void setLeftTwips(int twips);
+    void followLeftEdge(); // the window to its left edge's pixel
     QString limite() const { return limite_; }
     QMenu *am1() const { return am1_; }
 
@@ -38,6 +39,7 @@ private:
     QAction *am2_;
     QTimer *timer1_;
     QTimer *timer2_;
+    QTimer *frame_;
     QString limite_;
     QString posicion_;
     int leftTwips_ = 0;

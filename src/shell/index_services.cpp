@@ -58,6 +58,10 @@ void IndexWindow::buildServices()
     auto *clip0 = new QLabel(this);
     clip0->setObjectName(QStringLiteral("clip_0"));
     clip0->setGeometry(twipsRect(0, 0, 150, 240));
+    QPalette yellow = clip0->palette();
+    yellow.setColor(QPalette::WindowText, QColor(0xFF, 0xFF, 0x00));
+    clip0->setPalette(yellow);
+    setBold(clip0, 10);
     clipLabels_.push_back(clip0);
     clip_.push_back({});
 

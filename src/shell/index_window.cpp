@@ -84,7 +84,7 @@ IndexWindow::IndexWindow()
     for (const LauncherLabel &entry : launcherLabels()) {
         auto *label = new ClickLabel(this, QLatin1String(entry.name));
         label->setText(QLatin1String(kPaLuego));
-        label->setGeometry(px(20 + (i / 15) * 164, 104 + (i % 15) * 18, 162, 18));
+        label->setGeometry(px(i < 15 ? 14 : 184, 104 + (i % 15) * 18, i < 15 ? 170 : 160, 18));
         QFont font = label->font();
         font.setPointSize(9);
         font.setBold(true);

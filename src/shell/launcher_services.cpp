@@ -17,7 +17,7 @@ QString zeroIfBelowTen(int part)
 QString nombreDiaSemana(int diaDomingoPrimero)
 {
     static const int days[] = {slot::Domingo, slot::Lunes,   slot::Martes, slot::Miercoles,
-                                slot::Jueves,  slot::Viernes, slot::Sabado};
+                               slot::Jueves,  slot::Viernes, slot::Sabado};
     if (diaDomingoPrimero < 1 || diaDomingoPrimero > 7)
         return {};
     return texto(days[diaDomingoPrimero - 1]);

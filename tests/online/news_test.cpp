@@ -77,19 +77,19 @@ TEST_F(NewsPanelTest, TheBundledNewsFillTheTextAndScrollByHovering)
     panel->cycle()->parseTick();
     const QString text = get<QPlainTextEdit>("Textn2")->toPlainText();
     EXPECT_TRUE(text.startsWith(QStringLiteral("\n\n14/01/2011\nYa están disponibles")));
-    EXPECT_EQ(panel->limite().limite(), QStringLiteral("-4200"));
+    EXPECT_EQ(panel->limite().limite(), QStringLiteral("-2400"));
     EXPECT_TRUE(get("Image1")->isEnabled());
     EXPECT_TRUE(get("Line1")->isHidden());
     EXPECT_FALSE(get("Line4")->isHidden());
 
     panel->image2MouseMove();
     EXPECT_TRUE(get<QTimer>("Timern15")->isActive());
-    EXPECT_NEAR(get<QPlainTextEdit>("Textn2")->height() * 15, 14200, 15) << "10000 - limit";
+    EXPECT_NEAR(get<QPlainTextEdit>("Textn2")->height() * 15, 12400, 15) << "10000 - limit";
     EXPECT_EQ(static_cast<NewsLine *>(get("Line5"))->colour(), QColor(255, 0, 0));
     while (!get("Line4")->isHidden())
         panel->commandn5Click();
-    EXPECT_GT(panel->top(), -4200 - 50);
-    EXPECT_LE(panel->top(), -4200);
+    EXPECT_GT(panel->top(), -2400 - 50);
+    EXPECT_LE(panel->top(), -2400);
     EXPECT_FALSE(get("Line1")->isHidden());
     panel->image1MouseMove();
     EXPECT_FALSE(get<QTimer>("Timern15")->isActive());

@@ -97,6 +97,9 @@ TEST(LauncherServices, PopupStepsChaseAndDoorCommands)
     EXPECT_EQ(left, -10);
     EXPECT_TRUE(pasoPopupIzquierda(left)) << "below 0 it stays and turns again";
     EXPECT_EQ(left, -10);
+    left = 0;
+    EXPECT_FALSE(pasoPopupIzquierda(left)) << "exactly 0 neither moves nor turns";
+    EXPECT_EQ(left, 0);
 
     std::vector<PuntoTwips> clip(3);
     pasoPersecucion(clip, QPoint(600, 120), 6);
