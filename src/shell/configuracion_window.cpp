@@ -18,7 +18,7 @@ namespace {
 
 const QColor kInk(0xFF, 0xE0, 0x80);
 
-// Design pixels of the window, as its outline.
+// Design pixels of the window, as its outline; the controls keep clear of its holes.
 QRect px(int left, int top, int width, int height)
 {
     return twipsRect(left * 15, top * 15, width * 15, height * 15);
@@ -44,16 +44,16 @@ ConfiguracionWindow::ConfiguracionWindow()
     paintBackground(this, QColor(0x3A, 0x10, 0x4A));
 
     auto *title =
-        label(this, "Label1", QStringLiteral("Configuración secreta"), px(130, 60, 240, 30));
-    setBold(title, 14);
-    label(this, "Label2", QStringLiteral("Página Inicial:"), px(70, 130, 110, 22));
+        label(this, "Label1", QStringLiteral("Configuración secreta"), px(66, 124, 214, 30));
+    setBold(title, 12);
+    label(this, "Label2", QStringLiteral("Página Inicial:"), px(40, 176, 100, 22));
     text1_->setObjectName(QStringLiteral("Text1"));
-    text1_->setGeometry(px(180, 128, 190, 24));
-    auto *label4 = label(this, "Label4", QStringLiteral("Cambiar"), px(378, 130, 60, 22));
-    label(this, "Label3", QStringLiteral("Messenger:"), px(70, 168, 110, 22));
+    text1_->setGeometry(px(140, 174, 210, 24));
+    auto *label4 = label(this, "Label4", QStringLiteral("Cambiar"), px(360, 176, 60, 22));
+    label(this, "Label3", QStringLiteral("Messenger:"), px(40, 212, 100, 22));
     text3_->setObjectName(QStringLiteral("Text3"));
-    text3_->setGeometry(px(180, 166, 190, 24));
-    auto *label5 = label(this, "Label5", QStringLiteral("Cambiar"), px(378, 168, 60, 22));
+    text3_->setGeometry(px(140, 210, 210, 24));
+    auto *label5 = label(this, "Label5", QStringLiteral("Cambiar"), px(360, 212, 60, 22));
     for (ClickLabel *change : {label4, label5}) {
         change->setCursor(Qt::PointingHandCursor);
         QFont underlined = change->font();
@@ -62,10 +62,10 @@ ConfiguracionWindow::ConfiguracionWindow()
     }
     auto *command1 = new QPushButton(QStringLiteral("Buscaminas !!"), this);
     command1->setObjectName(QStringLiteral("Command1"));
-    command1->setGeometry(px(120, 220, 110, 30));
+    command1->setGeometry(px(130, 252, 110, 30));
     auto *command3 = new QPushButton(QStringLiteral("Volver!!"), this);
     command3->setObjectName(QStringLiteral("Command3"));
-    command3->setGeometry(px(246, 220, 110, 30));
+    command3->setGeometry(px(306, 252, 100, 30));
 
     connect(label4, &ClickLabel::clicked, this, &ConfiguracionWindow::label4Click);
     connect(label5, &ClickLabel::clicked, this, &ConfiguracionWindow::label5Click);
