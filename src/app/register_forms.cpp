@@ -7,12 +7,15 @@
 #include "games/games_forms.h"
 #include "identifiers/identifier_forms.h"
 #include "maths/maths_forms.h"
+#include "online/news_panel.h"
 #include "online/online_forms.h"
 #include "plates/plates_forms.h"
 #include "shell/acercade_window.h"
+#include "shell/arrival_window.h"
 #include "shell/au_window.h"
 #include "shell/colores_window.h"
 #include "shell/colorestuyos_window.h"
+#include "shell/configuracion_window.h"
 #include "shell/forms.h"
 #include "shell/idiomaa_window.h"
 #include "shell/index_window.h"
@@ -40,6 +43,8 @@ void registerForms()
     f.registerForm(QStringLiteral("preferencias"), [] { return new PreferenciasWindow; });
     f.registerForm(QStringLiteral("acercade"), [] { return new AcercadeWindow; });
     f.registerForm(QStringLiteral("limpia"), [] { return new LimpiaWindow; });
+    f.registerForm(QStringLiteral("arrival"), [] { return new ArrivalWindow; });
+    f.registerForm(QStringLiteral("configuracion"), [] { return new ConfiguracionWindow; });
     registerMathsForms();
     registerGraphForms();
     registerPlatesForms();
@@ -48,6 +53,9 @@ void registerForms()
     registerGamesForms();
     registerSignalsForms();
     launcherHooks().formulaBench = formulaBench;
+    launcherHooks().newsPanel = [](QWidget *launcher) -> LauncherNews * {
+        return new NewsPanel(launcher);
+    };
 }
 
 } // namespace zafro

@@ -1,5 +1,6 @@
 #include "platform/qt_services.h"
 
+#include "platform/cd_door.h"
 #include "runtime/classic_random.h"
 #include "shell/application.h"
 #include "shell/form.h"
@@ -158,7 +159,10 @@ QPoint QtDesktop::cursorPos() const
     return QCursor::pos();
 }
 
-void QtDesktop::cdDoor(const QString &) {} // no CD door to drive here
+void QtDesktop::cdDoor(const QString &command)
+{
+    runCdDoor(cdDoorAction(command));
+}
 
 void QtDesktop::endProgram(int status)
 {

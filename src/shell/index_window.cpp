@@ -79,14 +79,14 @@ IndexWindow::IndexWindow()
             &IndexWindow::label1Click);
     plainLabel(this, "Label3", QString(), px(40, 58, 400, 22));
 
-    // Three columns of ten tools, in the order of their numbers.
+    // Two columns of fifteen tools, in the order of their numbers; the news beside them.
     int i = 0;
     for (const LauncherLabel &entry : launcherLabels()) {
         auto *label = new ClickLabel(this, QLatin1String(entry.name));
         label->setText(QLatin1String(kPaLuego));
-        label->setGeometry(px(28 + (i / 10) * 200, 112 + (i % 10) * 26, 198, 24));
+        label->setGeometry(px(i < 15 ? 14 : 184, 104 + (i % 15) * 18, i < 15 ? 170 : 160, 18));
         QFont font = label->font();
-        font.setPointSize(10);
+        font.setPointSize(9);
         font.setBold(true);
         label->setFont(font);
         label->setCursor(Qt::PointingHandCursor);
@@ -99,18 +99,26 @@ IndexWindow::IndexWindow()
         ++i;
     }
 
-    // The clock, the date, the visit counter and its comment; the clock and date
-    // keep their design texts until their own services tick them.
+    // The clock, the date, the visit counter and its comment, under the news.
     auto *label4 = static_cast<ClickLabel *>(
-        plainLabel(this, "Label4", QStringLiteral("00:00:00"), px(632, 112, 110, 22)));
+        plainLabel(this, "Label4", QStringLiteral("00:00:00"), px(368, 306, 120, 18)));
     label4->setMouseTracking(true);
     connect(label4, &ClickLabel::mouseMoved, this, &IndexWindow::label4MouseMove);
-    plainLabel(this, "Label8", QStringLiteral("--/--/----"), px(632, 136, 110, 22));
-    auto *label2 = plainLabel(this, "Label2", QString(), px(632, 180, 110, 40));
-    label2->setWordWrap(true);
+    connect(label4, &ClickLabel::clicked, this, &IndexWindow::label4Click);
+    auto *label8 = static_cast<ClickLabel *>(
+        plainLabel(this, "Label8", QStringLiteral("--/--/----"), px(496, 306, 246, 18)));
+    connect(label8, &ClickLabel::clicked, this, &IndexWindow::label8Click);
+    for (ClickLabel *clock : {label4, label8}) {
+        clock->setCursor(Qt::PointingHandCursor);
+        QFont font = clock->font();
+        font.setBold(true);
+        clock->setFont(font);
+    }
+    plainLabel(this, "Label2", QString(), px(368, 326, 376, 16));
     auto *label5 =
-        plainLabel(this, "Label5", QStringLiteral("Do you live Zafro ?"), px(632, 226, 110, 60));
+        plainLabel(this, "Label5", QStringLiteral("Do you live Zafro ?"), px(368, 343, 376, 34));
     label5->setWordWrap(true);
+    label5->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 
     auto *label6 = static_cast<ClickLabel *>(
         plainLabel(this, "Label6", QStringLiteral("4.6  BETA 2"), px(100, 432, 120, 20)));
@@ -144,6 +152,7 @@ IndexWindow::IndexWindow()
     connect(command11, &QPushButton::clicked, this, &IndexWindow::command11Click);
     connect(command12, &QPushButton::clicked, this, &IndexWindow::command12Click);
     connect(command19, &QPushButton::clicked, this, &IndexWindow::command19Click);
+    buildServices();
 }
 
 void IndexWindow::formLoad()
@@ -156,8 +165,14 @@ void IndexWindow::formLoad()
     topopen_ = formatoGuardado(QStringLiteral("topopen"));
     findChild<QPushButton *>(QStringLiteral("Command9"))->setVisible(topopen_ == 1);
     findChild<QPushButton *>(QStringLiteral("Command10"))->setVisible(topopen_ != 1);
+    if (topopen_ == 1)
+        timer4_->start();
+    else
+        timer4_->stop();
 
-    // 3: the news fetch belongs to the news panel, which is not on the launcher yet.
+    // 3
+    if (news_)
+        news_->start();
 
     // 4-5: centred across the screen, its top as designed; then the outline.
     const int screenWidth = twipsToPixelsX(services().desktop->screenSizeTwips().width());
@@ -169,11 +184,12 @@ void IndexWindow::formLoad()
     limpiarAvisoMensajero();
     ponerPaginaDeInicio();
 
-    // 9: the visit counter. Its comment in Label5 comes with the launcher's services.
+    // 9-11
     visitas_ = contarVisita();
     findChild<QLabel *>(QStringLiteral("Label2"))->setText(textoVisitas(visitas_));
-
-    // 10-11: the clock's first tick and the chasing letters come with the services.
+    ponerComentario();
+    command1Click();
+    crearLetras(QLatin1String(kTextoWeb));
 
     // 12: a marker file of an earlier version, in the program's folder here.
     Desktop *desktop = services().desktop;
@@ -202,7 +218,8 @@ void IndexWindow::formLoad()
     caption("Command11", texto(slot::EntrarEnLaWeb), texto(slot::EntrarEnLaWeb));
     caption("Command12", texto(slot::Idioma));
 
-    // 14: the greeting comes with the services.
+    // 14
+    ponerSaludo();
 
     // 15
     primeraVisitaIndex(visitas_);
@@ -241,7 +258,8 @@ void IndexWindow::labelMouseMove(const QString &name)
 void IndexWindow::formMouseMove()
 {
     command2Click();
-    // The news arrows' scroll timers and colours are reset here too, with the news panel.
+    if (news_)
+        news_->surfaceMoved();
 }
 
 void IndexWindow::label4MouseMove()
