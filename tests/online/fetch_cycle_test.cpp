@@ -4,6 +4,7 @@
 #include "online/rates_feed.h"
 #include "runtime/runtime_error.h"
 #include "shell/language.h"
+#include "window_test.h"
 
 #include <gtest/gtest.h>
 
@@ -64,7 +65,7 @@ QStringList rates(const QByteArray &document)
 const QString kRefused =
     "No ha sido posible la conexión con el servidor; comprueba que estas conectado a internet!";
 
-class FetchCycleTest : public ::testing::Test {
+class FetchCycleTest : public test::WindowTest {
 protected:
     void SetUp() override { CargarEspanol(); }
 
@@ -102,14 +103,6 @@ protected:
         if (cycle_->verifyTimer()->isActive())
             cycle_->verifyTick();
     }
-    static QStringList messageTexts()
-    {
-        QStringList texts;
-        for (const auto &m : fakes().dialogs.messages)
-            texts << m.text;
-        return texts;
-    }
-
     QTemporaryDir dir_;
     QObject owner; // outlives the cycle
     std::unique_ptr<FetchCycle> cycle_;
