@@ -45,23 +45,18 @@ private:
             return;
         seen.clear();
         ++requests;
-        switch (mode) {
-        case Mode::Serve:
-            socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\nContent-Length: " +
-                          QByteArray::number(body.size()) + "\r\nConnection: close\r\n\r\n" + body);
-            socket->disconnectFromHost();
-            break;
-        case Mode::NotFound:
+        if (mode == Mode::NotFound) {
             socket->write("HTTP/1.1 404 Not Found\r\nContent-Length: 9\r\nConnection: close\r\n\r\n"
                           "not found");
-            socket->disconnectFromHost();
-            break;
-        case Mode::NeverFinish:
+        } else {
+            // A body that never finishes promises more than it sends.
+            const int length = body.size() + (mode == Mode::NeverFinish ? 1000 : 0);
             socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\nContent-Length: " +
-                          QByteArray::number(body.size() + 1000) + "\r\n\r\n" + body);
-            socket->flush();
-            break;
+                          QByteArray::number(length) + "\r\nConnection: close\r\n\r\n" + body);
         }
+        socket->flush();
+        if (mode != Mode::NeverFinish)
+            socket->disconnectFromHost();
     }
 
     QTcpServer server_;

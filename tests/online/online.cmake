@@ -1,6 +1,6 @@
 list(APPEND ONLINE_TEST_SOURCES ${CMAKE_CURRENT_LIST_DIR}/fetch_cycle_test.cpp
-     ${CMAKE_CURRENT_LIST_DIR}/divisas_test.cpp ${CMAKE_CURRENT_LIST_DIR}/rates_feed_test.cpp)
-set_property(SOURCE ${CMAKE_CURRENT_LIST_DIR}/rates_feed_test.cpp APPEND PROPERTY
+     ${CMAKE_CURRENT_LIST_DIR}/divisas_test.cpp)
+set_property(SOURCE ${CMAKE_CURRENT_LIST_DIR}/fetch_cycle_test.cpp APPEND PROPERTY
              COMPILE_DEFINITIONS ZAFRO_FEEDS_DIR="${CMAKE_CURRENT_LIST_DIR}/feeds")
 
 # The server-side script on good and bad feeds, as the operator's timer runs it.

@@ -3,28 +3,18 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
-#include <functional>
 #include <vector>
 
 namespace zafro {
 namespace {
 
-using Loader = void (*)();
 struct Language {
     const char *name;
-    Loader load;
+    void (*load)();
 };
-const Language kEspanol{"Spanish", CargarEspanol};
-const Language kIngles{"English", CargarIngles};
-const Language kValenciano{"Valencian", CargarValenciano};
-const Language kLanguages[] = {kEspanol, kIngles, kValenciano};
-
-QString q(const char *utf8)
-{
-    return QString::fromUtf8(utf8);
-}
+const Language kLanguages[] = {
+    {"Spanish", CargarEspanol}, {"English", CargarIngles}, {"Valencian", CargarValenciano}};
 
 class LanguageTable : public ::testing::Test {
 protected:
@@ -36,7 +26,7 @@ protected:
     }
 
     // Every assignment of one loader run, in order.
-    std::vector<std::pair<int, QString>> record(const Language &language)
+    static std::vector<std::pair<int, QString>> record(const Language &language)
     {
         std::vector<std::pair<int, QString>> made;
         setLanguageAssignmentHook([&](int slot, const QString &text) {
@@ -46,199 +36,59 @@ protected:
         setLanguageAssignmentHook({});
         return made;
     }
-
-    std::array<QString, kLanguageSlots + 1> snapshot()
+    static QString run(const LanguageTableData &data, Idioma idioma)
     {
-        std::array<QString, kLanguageSlots + 1> texts;
-        for (int slot = 1; slot <= kLanguageSlots; ++slot)
-            texts[slot] = texto(slot);
-        return texts;
+        QStringList made;
+        for (const Assignment &a : loaderRun(data, idioma))
+            made.append(QString::number(a.slot) + u'=' + a.text);
+        return made.join(u' ');
     }
 };
 
 TEST_F(LanguageTable, TellingRowsInAllThreeLanguages)
 {
-    struct Row {
+    const struct {
+        const char *name;
         int slot;
         const char *text[3];
-    };
-    const Row rows[] = {
-        {1, {"1", "2", "4"}},
-        {2, {"Zafro Suite", "Zafro Suite", "Zafro Suite"}},
-        {3, {"Bienvenido", "Welcome", "Benvingut"}},
-        {33, {"Cerrar", "Close", "Tancar"}},
-        {34, {"Acerca de", "About", "Quant a"}},
-        {43, {"has estado aqui ", "you have been here ", "has estat açi "}},
-        {44, {" veces", " times", " voltes"}},
-        {45,
+    } rows[] = {
+        {"language code", 1, {"1", "2", "4"}},
+        {"trailing blank kept", 4, {"Bienvenido a ", "Welcome to ", "Benvingut a "}},
+        {"double blank kept", 15, {"Generar  PI", "Generate  PI", "Generar  PI"}},
+        {"earlier row overwritten", 33, {"Cerrar", "Close", "Tancar"}},
+        {"accents",
+         45,
          {"Vas a batir un record...", "You are going to set a record...",
           "Vas a batre un récord..."}},
-        {46,
-         {"Me he quedado con la boca abierta!! has entrado 100 veces !!",
-          "I'm surprised!! You have entered 100 times!!",
-          "M'he quedat amb la bocabadat!! has entrat 100 voltes !!"}},
-        {51, {"Lunes", "Monday", "Dilluns"}},
-        {57, {"Domingo", "Sunday", "Diumenge"}},
-        {72, {"Aceptar", "Ok", "Acceptar"}},
-        {73, {"Pausar", "Stop", "Pausar"}},
-        {74, {"Reanudar", "Play", "Reanudar"}},
-        {106,
-         {"Solo puedes poner valores entre 0 y 255", "You can only put numbers between 0 and 255",
-          "Sols pots ficar valors entre 0 i 255"}},
-        {398,
-         {"Conectando con el servidor de noticias de Zafro.....",
-          "Connecting with the Zafro News Server.....",
-          "Conectant amb el servidor de noticies de Zafro....."}},
-    };
-    for (int column = 0; column < 3; ++column) {
-        clearLanguageTable();
-        kLanguages[column].load();
-        for (const Row &row : rows)
-            EXPECT_EQ(texto(row.slot), q(row.text[column]))
-                << kLanguages[column].name << " slot " << row.slot;
-    }
-}
-
-TEST_F(LanguageTable, TextsQuotedByTheWindowsStandWordForWord)
-{
-    struct Row {
-        const Language &language;
-        int slot;
-        const char *text;
-    };
-    const Row rows[] = {
-        {kEspanol, 4, "Bienvenido a "},
-        {kEspanol, 15, "Generar  PI"},
-        {kEspanol, 50,
-         "Seguro que has hecho trampas modificando el registro!!!!!; no me chupo el dedo"},
-        {kEspanol, 84,
-         "Lo siento pero por errores de cálculo en la época romana, no se puso un año cero. Hace "
-         "falta ser torpe..."},
-        {kEspanol, 87, "Zafro Skin v 2.8: Elije tu configuración de colores"},
-        {kEspanol, 93, "Zafro Skin v 2.8:  Haz tu configuración de colores"},
-        {kEspanol, 153,
-         "Al final de cada letra hay que poner una barra: '/'    Al final de cada palabra se ponen "
-         "dos barras: '//'"},
-        {kEspanol, 178,
-         "Este método es bastante sencillo de utilizar. Utilizamos la formula: PI/4 = 4.arctag 1/5 "
-         "- arctag 1/239. El número de decimales obtenidos, dependerá de la precisión con la que "
-         "realicemos los cálculos... Si ponemos un número abusivo de decimales es posible que "
-         "sobrecarguemos el procesador y el programa no responda..."},
-        {kEspanol, 179, " Se ha tardado "},
-        {kEspanol, 183,
-         "Escoge una ecuación para ver las gráficas. Te recomiendo poner valores menores a 9 en la "
-         "constante. Puedes ingresar también valores fraccionarios, los mejores resultados se "
-         "obtienen con valores fraccionarios para los coeficientes."},
-        {kEspanol, 243,
-         "Ten en cuenta que este generador de tarjetas de crédito solo tiene la función de enseñar "
-         "cual es el algoritmo utilizado para la codificación. Cualquier otro uso que se le de, no "
-         "estará bajo la responsabilidad de Zafro.  Los números generados son verdaderos, otra "
-         "cosa es que realmente existan..."},
-        {kEspanol, 262,
-         "Puesto que nunca as ejecutado esta sección, vamos a proceder a la actualización de datos "
-         "con el servidor... Sería conveniente que los datos fueran actualizados periódicamente "
-         "para obtener mejores resultados en las operaciones"},
-        {kEspanol, 279,
-         "Todavía no hemos establecido conexión con el servidor, espere a recibir confirmación. "
-         "Recuerde que tiene que estar conectado a internet para actualizar los datos. Si la "
-         "confirmación no llegará, por favor, informe aqui: "},
-        {kEspanol, 385, "Volver   "},
-        {kEspanol, 396, "En número de filas no es correcto. Este puede ser desde 2 hasta 6!"},
-        {kEspanol, 399,
-         "No ha sido posible la conexión con el servidor de noticias... Esto puede deberse a que "
-         "no "
-         "estes conectado o a un fallo en la conexión de internet..."},
-        {kEspanol, 403, "Lo siento pero esta sección solo está disponible en Español"},
-        {kEspanol, 421,
-         "El dígito introducido en la primera letra es inválido. Ten en cuenta que las matrículas "
-         "solo llevan consonantes."},
-        {kEspanol, 446, " del "},
-        {kEspanol, 473,
-         "El fichero seleccionado no existe... Por favor, asegúrate de haber introducido "
-         "correctamente la ruta. Si no tienes el archivo de datos actualiza directamente o entra "
-         "en "},
-        {kIngles, 10, "Integration Calculations"},
-        {kIngles, 17, "Sucesions"},
-        {kIngles, 28, "Three on line"},
-        {kIngles, 94, "Title"},
-        {kIngles, 116, "Horizontal Parable"},
-        {kIngles, 118, "Hiperble"},
-        {kIngles, 269, "Not connected with server"},
-        {kIngles, 274, "Not connected to server"},
-        {kIngles, 446, " "},
-        {kIngles, 447, " "},
-        {kValenciano, 446, " del "},
+        {"English later row", 94, {"Título", "Title", "Títol"}},
+        {"English blank month joiner", 446, {" del ", " ", " del "}},
     };
     for (const Language &language : kLanguages) {
         clearLanguageTable();
         language.load();
-        for (const Row &row : rows) {
-            if (row.language.load == language.load) {
-                EXPECT_EQ(texto(row.slot), q(row.text)) << language.name << " slot " << row.slot;
-            }
+        const auto column = &language - kLanguages;
+        for (const auto &row : rows) {
+            SCOPED_TRACE(std::string(language.name) + ": " + row.name);
+            EXPECT_EQ(texto(row.slot), row.text[column]);
         }
     }
-    CargarEspanol();
-    EXPECT_EQ(texto(4) + texto(2), q("Bienvenido a Zafro Suite")) << "slot 4 keeps its blank";
+    EXPECT_EQ(texto(0), QString());
+    EXPECT_EQ(texto(kLanguageSlots + 1), QString());
 }
 
-TEST_F(LanguageTable, EachLoaderFillsEverySlotButEnglishSlot93)
-{
-    EXPECT_TRUE(texto(2).isEmpty()) << "a fresh table is empty";
-    for (const Language &language : kLanguages) {
-        clearLanguageTable();
-        language.load();
-        for (int slot = 1; slot <= kLanguageSlots; ++slot) {
-            const bool left = language.load == CargarIngles && slot == 93;
-            EXPECT_EQ(texto(slot).isEmpty(), left) << language.name << " slot " << slot;
-        }
-        EXPECT_TRUE(texto(0).isEmpty() && texto(kLanguageSlots + 1).isEmpty()) << language.name;
-    }
-}
-
-TEST_F(LanguageTable, LaterAssignmentsOfASlotWin)
-{
-    const auto assignmentsOf = [](const std::vector<std::pair<int, QString>> &run, int slot) {
-        QStringList texts;
-        for (const auto &[s, text] : run) {
-            if (s == slot)
-                texts.append(text);
-        }
-        return texts;
-    };
-    const auto ingles = record(kIngles);
-    EXPECT_EQ(assignmentsOf(ingles, 446), QStringList({q(" of "), q(" ")}));
-    EXPECT_EQ(assignmentsOf(ingles, 94),
-              QStringList({q("Zafro Skin v 2.8: Do your own color configuration"), q("Title")}));
-    EXPECT_EQ(texto(94), q("Title"));
-    const auto valenciano = record(kValenciano);
-    EXPECT_EQ(assignmentsOf(valenciano, 33), QStringList({q("Tanca"), q("Tancar")}));
-    EXPECT_EQ(texto(33), q("Tancar"));
-    EXPECT_EQ(record(kEspanol).size(), std::size_t(kLanguageSlots)) << "Spanish writes each once";
-}
-
-TEST_F(LanguageTable, SlotsGoInNumberOrderAndTheSpanishOnlyNoticeLast)
-{
-    for (const Language &language : kLanguages) {
-        const auto run = record(language);
-        ASSERT_FALSE(run.empty()) << language.name;
-        EXPECT_EQ(run.back().first, 403) << language.name;
-        EXPECT_EQ(texto(403), run.back().second) << language.name;
-        int previous = 0;
-        for (std::size_t i = 0; i + 1 < run.size(); ++i) {
-            EXPECT_NE(run[i].first, 403) << language.name << " at assignment " << i;
-            EXPECT_GE(run[i].first, previous) << language.name << " at assignment " << i;
-            previous = run[i].first;
-        }
-    }
-}
-
-TEST_F(LanguageTable, ASecondLoaderLeavesNothingOfTheFormerButEnglishSlot93)
+// Switching languages leaves nothing of the former one, except the English
+// loader never writing slot 93 (kept: the former language's caption stays there).
+TEST_F(LanguageTable, EachLoaderFillsEverySlotAndASecondLeavesOnlySlot93OfTheFormer)
 {
     for (const Language &to : kLanguages) {
         clearLanguageTable();
         to.load();
-        const auto fresh = snapshot();
+        std::array<QString, kLanguageSlots + 1> fresh;
+        for (int slot = 1; slot <= kLanguageSlots; ++slot) {
+            fresh[slot] = texto(slot);
+            const bool left = to.load == CargarIngles && slot == 93;
+            EXPECT_EQ(fresh[slot].isEmpty(), left) << to.name << " slot " << slot;
+        }
         for (const Language &from : kLanguages) {
             clearLanguageTable();
             from.load();
@@ -246,22 +96,39 @@ TEST_F(LanguageTable, ASecondLoaderLeavesNothingOfTheFormerButEnglishSlot93)
             to.load();
             for (int slot = 1; slot <= kLanguageSlots; ++slot) {
                 const bool left = to.load == CargarIngles && slot == 93;
-                const QString expected = left ? former93 : fresh[slot];
-                EXPECT_EQ(texto(slot), expected)
+                EXPECT_EQ(texto(slot), left ? former93 : fresh[slot])
                     << from.name << " then " << to.name << ", slot " << slot;
             }
         }
     }
 }
 
-TEST(LanguageTableData, CompiledTableIsWholeAndNamed)
+TEST_F(LanguageTable, SlotsGoInNumberOrderLaterAssignmentsWinAndTheNoticeIsLast)
+{
+    for (const Language &language : kLanguages) {
+        const auto made = record(language);
+        ASSERT_FALSE(made.empty()) << language.name;
+        EXPECT_EQ(made.back().first, 403) << language.name;
+        for (std::size_t i = 0; i + 2 < made.size(); ++i)
+            EXPECT_LE(made[i].first, made[i + 1].first) << language.name << " at " << i;
+    }
+    EXPECT_EQ(record(kLanguages[0]).size(), std::size_t(kLanguageSlots)) << "Spanish: once each";
+    QStringList ingles;
+    for (const auto &[slot, text] : record(kLanguages[1]))
+        if (slot == 94 || slot == 446)
+            ingles << text;
+    EXPECT_EQ(ingles, QStringList({"Zafro Skin v 2.8: Do your own color configuration", "Title",
+                                   " of ", " "}));
+}
+
+TEST_F(LanguageTable, TheCompiledDataIsWholeAndNamed)
 {
     const LanguageTableData data = parseLanguageTable(compiledLanguageTable());
     EXPECT_EQ(data.errors, QStringList());
     EXPECT_EQ(checkLanguageTable(data, kLanguageSlots), QStringList());
 }
 
-TEST(LanguageTableData, ReadsRowsEscapesAndMarkers)
+TEST_F(LanguageTable, TheReaderTakesRowsEscapesAndMarkers)
 {
     const LanguageTableData data =
         parseLanguageTable("# a comment\r\n"
@@ -271,29 +138,26 @@ TEST(LanguageTableData, ReadsRowsEscapesAndMarkers)
                            "earlier 2 - \"x\" -");
     ASSERT_EQ(data.errors, QStringList());
     ASSERT_EQ(data.rows.size(), 3u);
-    const LanguageRow &uno = data.rows[0];
+    const LanguageRow &uno = data.rows[0], &dos = data.rows[1], &earlier = data.rows[2];
     EXPECT_EQ(uno.line, 3);
-    EXPECT_EQ(uno.name, q("Uno"));
-    EXPECT_EQ(uno.texts[0], q("a\r\nb"));
-    EXPECT_EQ(uno.texts[1], q("tab\there"));
-    EXPECT_EQ(uno.texts[2], q("q\"\\"));
-    const LanguageRow &dos = data.rows[1];
-    EXPECT_EQ(dos.texts[0], q(" lead"));
-    EXPECT_EQ(dos.texts[1], q("trail "));
+    EXPECT_EQ(uno.name, "Uno");
+    EXPECT_EQ(uno.texts[0], "a\r\nb");
+    EXPECT_EQ(uno.texts[1], "tab\there");
+    EXPECT_EQ(uno.texts[2], "q\"\\");
+    EXPECT_EQ(dos.texts[0], " lead");
+    EXPECT_EQ(dos.texts[1], "trail ");
     EXPECT_FALSE(dos.texts[2].has_value());
-    const LanguageRow &earlier = data.rows[2];
     EXPECT_TRUE(earlier.earlier);
     EXPECT_EQ(earlier.slot, 2);
     EXPECT_TRUE(earlier.name.isEmpty());
-    EXPECT_EQ(earlier.texts[1], q("x"));
+    EXPECT_EQ(earlier.texts[1], "x");
 }
 
-TEST(LanguageTableData, RejectsMalformedRows)
+TEST_F(LanguageTable, TheReaderRejectsMalformedRows)
 {
     const struct {
-        const char *row;
-        const char *error;
-    } cases[] = {
+        const char *row, *error;
+    } rows[] = {
         {"x Uno \"a\" \"b\" \"c\"", "slot number"},
         {"1 9Uno \"a\" \"b\" \"c\"", "name"},
         {"1 Uno \"a\" \"b\"", "missing"},
@@ -305,16 +169,17 @@ TEST(LanguageTableData, RejectsMalformedRows)
         {"1 Uno \"a\tb\" \"b\" \"c\"", "control character"},
         {"1 Uno \"\xC3\" \"b\" \"c\"", "UTF-8"},
     };
-    for (const auto &c : cases) {
-        const LanguageTableData data = parseLanguageTable(QByteArrayView(c.row));
-        EXPECT_TRUE(data.rows.empty()) << c.row;
-        ASSERT_EQ(data.errors.size(), 1) << c.row;
-        EXPECT_TRUE(data.errors[0].contains(QLatin1String(c.error)))
-            << c.row << ": " << data.errors[0].toStdString();
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.error);
+        const LanguageTableData data = parseLanguageTable(QByteArrayView(row.row));
+        EXPECT_TRUE(data.rows.empty());
+        ASSERT_EQ(data.errors.size(), 1);
+        EXPECT_TRUE(data.errors[0].contains(QLatin1String(row.error)))
+            << data.errors[0].toStdString();
     }
 }
 
-TEST(LanguageTableData, CheckNamesEveryGapAndClash)
+TEST_F(LanguageTable, TheCheckNamesEveryGapAndClash)
 {
     const LanguageTableData data = parseLanguageTable("1 Uno \"a\" \"a\" \"a\"\n"
                                                       "1 Otro \"b\" \"b\" \"b\"\n"
@@ -322,7 +187,7 @@ TEST(LanguageTableData, CheckNamesEveryGapAndClash)
                                                       "5 Cinco \"d\" \"d\" \"d\"\n"
                                                       "earlier 4 \"e\" - -\n");
     ASSERT_EQ(data.errors, QStringList());
-    const QString problems = checkLanguageTable(data, 4).join(QLatin1Char('\n'));
+    const QString problems = checkLanguageTable(data, 4).join(u'\n');
     for (const char *expected :
          {"slot 1 has a second row", "the name Uno is used twice", "slot 2 has no row",
           "slot 4 has no row", "slot 5 is outside 1 to 4",
@@ -331,7 +196,7 @@ TEST(LanguageTableData, CheckNamesEveryGapAndClash)
                                                                 << problems.toStdString();
 }
 
-TEST(LanguageTableData, RunFollowsSlotOrderWhateverTheFileOrder)
+TEST_F(LanguageTable, ARunFollowsSlotOrderWhateverTheFileOrder)
 {
     const LanguageTableData data = parseLanguageTable("403 Aviso \"n\" \"n\" \"n\"\n"
                                                       "7 Siete \"7\" - \"7\"\n"
@@ -339,15 +204,9 @@ TEST(LanguageTableData, RunFollowsSlotOrderWhateverTheFileOrder)
                                                       "earlier 7 - \"7b\" -\n"
                                                       "404 Otro \"o\" \"o\" \"o\"\n"
                                                       "2 Dos \"2\" \"2\" \"2\"\n");
-    const auto texts = [&](Idioma idioma) {
-        QStringList made;
-        for (const Assignment &a : loaderRun(data, idioma))
-            made.append(QString::number(a.slot) + QLatin1Char('=') + a.text);
-        return made.join(QLatin1Char(' '));
-    };
-    EXPECT_EQ(texts(Idioma::Espanol), q("2=2 7=7a 7=7 404=o 403=n"));
-    EXPECT_EQ(texts(Idioma::Ingles), q("2=2 7=7a 7=7b 404=o 403=n"));
-    EXPECT_EQ(texts(Idioma::Valenciano), q("2=2 7=7 404=o 403=n"));
+    EXPECT_EQ(run(data, Idioma::Espanol), "2=2 7=7a 7=7 404=o 403=n");
+    EXPECT_EQ(run(data, Idioma::Ingles), "2=2 7=7a 7=7b 404=o 403=n");
+    EXPECT_EQ(run(data, Idioma::Valenciano), "2=2 7=7 404=o 403=n");
 }
 
 } // namespace

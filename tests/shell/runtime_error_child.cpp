@@ -31,12 +31,12 @@ public:
 
     void formLoad() override
     {
-        if (kind_ == QLatin1String("timer")) {
+        if (kind_ == "timer") {
             auto *timer = new QTimer(this);
             connect(timer, &QTimer::timeout, this, [] { throw zafro::RuntimeError::overflow(); });
             timer->start(1);
-        } else if (kind_ == QLatin1String("click")) {
-            auto *button = new QPushButton(QStringLiteral("Command1"), this);
+        } else if (kind_ == "click") {
+            auto *button = new QPushButton("Command1", this);
             connect(button, &QPushButton::clicked, this,
                     [] { throw zafro::RuntimeError::divisionByZero(); });
             QTimer::singleShot(1, button, &QPushButton::click);
@@ -64,9 +64,9 @@ int main(int argc, char **argv)
     zafro::installQtServices();
     static PrintingDialogs dialogs;
     zafro::services().dialogs = &dialogs;
-    const QString kind = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral("timer");
-    zafro::forms().registerForm(QStringLiteral("faulty"), [kind] { return new Faulty(kind); });
-    zafro::forms().show(QStringLiteral("faulty"));
+    const QString kind = QString::fromLocal8Bit(argc > 1 ? argv[1] : "timer");
+    zafro::forms().registerForm("faulty", [kind] { return new Faulty(kind); });
+    zafro::forms().show("faulty");
     // Should the error not end the program, say so instead of hanging.
     QTimer::singleShot(5000, [] {
         std::fprintf(stderr, "still running\n");

@@ -4,42 +4,26 @@
 
 namespace {
 
-struct Outcome {
-    int exitCode;
-    QString errors;
-};
-
-Outcome runChild(const QString &kind)
-{
-    QProcess child;
-    child.setProgram(QStringLiteral(ZAFRO_RUNTIME_ERROR_CHILD));
-    child.setArguments({kind});
-    child.start();
-    child.waitForFinished(30000);
-    return {child.exitStatus() == QProcess::NormalExit ? child.exitCode() : -1,
-            QString::fromLocal8Bit(child.readAllStandardError())};
-}
-
 TEST(RuntimeErrorInAHandler, ShowsThePlatformMessageAndEndsWithANonZeroStatus)
 {
-    struct Case {
-        const char *kind;
-        const char *message;
-    };
-    const Case cases[] = {
+    const struct {
+        const char *kind, *message;
+    } rows[] = {
         {"timer", "Error '6' en tiempo de ejecución:\n\nDesbordamiento"},
         {"click", "Error '11' en tiempo de ejecución:\n\nDivisión por cero"},
         {"mouse", "Error '13' en tiempo de ejecución:\n\nNo coinciden los tipos"},
     };
-    for (const Case &c : cases) {
-        const Outcome out = runChild(QLatin1String(c.kind));
-        EXPECT_EQ(out.exitCode, 1) << c.kind << "\n" << out.errors.toStdString();
-        EXPECT_TRUE(out.errors.contains(QStringLiteral("[box 16 \"Zafro Suite\"] ") +
-                                        QString::fromUtf8(c.message)))
-            << c.kind << "\n"
-            << out.errors.toStdString();
-        EXPECT_FALSE(out.errors.contains(QStringLiteral("still running"))) << c.kind;
-        EXPECT_FALSE(out.errors.contains(QStringLiteral("Sanitizer"))) << c.kind;
+    for (const auto &row : rows) {
+        QProcess child;
+        child.start(ZAFRO_RUNTIME_ERROR_CHILD, {row.kind});
+        child.waitForFinished(30000);
+        const QString errors = QString::fromLocal8Bit(child.readAllStandardError());
+        SCOPED_TRACE(row.kind + ("\n" + errors.toStdString()));
+        EXPECT_EQ(child.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(child.exitCode(), 1);
+        EXPECT_TRUE(errors.contains(QString("[box 16 \"Zafro Suite\"] ") + row.message));
+        EXPECT_FALSE(errors.contains("still running"));
+        EXPECT_FALSE(errors.contains("Sanitizer"));
     }
 }
 
