@@ -14,33 +14,26 @@ using namespace matriculas;
 
 // --- The plate and its ordinal -----------------------------------------------------
 
-TEST(Consonantes, TwentyLettersNumberedInOrderAndNothingElse)
+TEST(Consonantes, TwentyLettersNumberedInOrderAndTypingTakesEitherCase)
 {
     const QString todas = QStringLiteral("BCDFGHJKLMNPRSTVWXYZ");
     for (int i = 0; i < todas.size(); ++i)
         EXPECT_EQ(valorConsonante(todas.mid(i, 1)), i) << todas.at(i).toLatin1();
-    for (const char *mala : {"A", "E", "I", "O", "U", "Q", "b", "z", "", "BB", "1", " "})
+    for (const char *mala : {"A", "Q", "b", "", "BB", "1"})
         EXPECT_EQ(valorConsonante(QLatin1String(mala)), -1) << '"' << mala << '"';
     EXPECT_EQ(valorConsonante(QStringLiteral("Ñ")), -1);
-}
-
-TEST(Consonantes, TypingAcceptsEitherCaseOrNothing)
-{
-    for (const char *buena : {"", "b", "B", "z", "Z", "x"})
+    for (const char *buena : {"", "b", "Z"})
         EXPECT_TRUE(letraAdmitida(QLatin1String(buena))) << buena;
-    for (const char *mala : {"a", "Q", "q", "7", "-"})
+    for (const char *mala : {"a", "q", "7"})
         EXPECT_FALSE(letraAdmitida(QLatin1String(mala))) << mala;
     EXPECT_FALSE(letraAdmitida(QStringLiteral("ñ")));
 }
 
 TEST(NumeroCoche, LettersCountInBaseTwentyAboveTheDigits)
 {
-    EXPECT_EQ(numeroCoche(0, 0, 0, 0), 0);
     EXPECT_EQ(numeroCoche(9999, 19, 19, 19), 79999999);
     // 3190 BRJ: R is 12, J is 6.
     EXPECT_EQ(numeroCoche(3190, 0, 12, 6), 12 * 200000 + 6 * 10000 + 3190);
-    EXPECT_EQ(numeroCoche(0, 1, 0, 0), 4000000);                         // 0000 CBB
-    EXPECT_EQ(numeroCoche(9999, 0, 0, 0) + 1, numeroCoche(0, 0, 0, 1));  // BBB to BBC
     EXPECT_EQ(numeroCoche(9999, 0, 0, 19) + 1, numeroCoche(0, 0, 1, 0)); // BBZ to BCB
 }
 
@@ -48,11 +41,8 @@ TEST(RellenarCifras, ThreeTestsEachOnTheTextThePreviousWrote)
 {
     const struct {
         const char *entrada, *salida;
-    } rows[] = {
-        {"5", "0005"},    {"7", "0007"},    {"0", "0000"},    {"", "0000"},    {"abc", "0000"},
-        {"42", "0042"},   {"99", "0099"},   {"100", "0100"},  {"999", "0999"}, {"1000", "1000"},
-        {"9876", "9876"}, {"0012", "0012"}, {"12ab", "0012"},
-    };
+    } rows[] = {{"7", "0007"},   {"", "0000"},     {"abc", "0000"}, {"42", "0042"},
+                {"999", "0999"}, {"9876", "9876"}, {"12ab", "0012"}};
     for (const auto &row : rows)
         EXPECT_EQ(rellenarCifras(QLatin1String(row.entrada)), QLatin1String(row.salida))
             << '"' << row.entrada << '"';
@@ -60,29 +50,11 @@ TEST(RellenarCifras, ThreeTestsEachOnTheTextThePreviousWrote)
 
 // --- The month table -----------------------------------------------------------------
 
-TEST(Meses, NamedYearAndMonthFromSeptember2000)
-{
-    EXPECT_EQ(nombreValorMes(0), QStringLiteral("200009"));
-    EXPECT_EQ(nombreValorMes(3), QStringLiteral("200012"));
-    EXPECT_EQ(nombreValorMes(4), QStringLiteral("200101"));
-    EXPECT_EQ(nombreValorMes(123), QStringLiteral("201012"));
-    QStringList nombres;
-    for (int k = 0; k < kMeses; ++k)
-        nombres << nombreValorMes(k);
-    QStringList ordenados = nombres;
-    ordenados.sort();
-    ordenados.removeDuplicates();
-    EXPECT_EQ(ordenados, nombres);
-}
-
-TEST(Acumulados, WithNoDataEveryMonthIsZero)
-{
-    for (double total : cargarAcumulados())
-        EXPECT_EQ(total, 0);
-}
-
 TEST(Acumulados, RunningTotalsOfTheStoredMonthsReadLeniently)
 {
+    EXPECT_EQ(nombreValorMes(4), QStringLiteral("200101"));
+    EXPECT_EQ(nombreValorMes(kMeses - 1), QStringLiteral("201012"));
+    EXPECT_EQ(cargarAcumulados()[kMeses - 1], 0) << "no data";
     test::escribirMes(0, 10);
     test::escribirMes(2, 5);
     EscribirClave(configPath(QStringLiteral("200101"), QStringLiteral("Matriculas")),
@@ -90,11 +62,9 @@ TEST(Acumulados, RunningTotalsOfTheStoredMonthsReadLeniently)
     EscribirClave(configPath(QStringLiteral("201012"), QStringLiteral("Matriculas")),
                   QStringLiteral("x"));
     const Acumulados a = cargarAcumulados();
-    EXPECT_EQ(a[0], 10);
-    EXPECT_EQ(a[1], 10);
-    EXPECT_EQ(a[2], 15);
-    EXPECT_EQ(a[3], 15);
-    EXPECT_EQ(a[4], 22);
+    const double esperados[] = {10, 10, 15, 15, 22};
+    for (int k = 0; k < 5; ++k)
+        EXPECT_EQ(a[k], esperados[k]) << k;
     EXPECT_EQ(a[123], 22);
 }
 
@@ -105,12 +75,9 @@ TEST(MesDelOrdinal, TheFirstMonthWhoseTotalReachesIt)
     a[0] = 100;
     a[1] = 100; // an empty month
     a[2] = 250;
-    EXPECT_EQ(mesDelOrdinal(a, 0), 0);
     EXPECT_EQ(mesDelOrdinal(a, 100), 0) << "a total equal to the ordinal is its month";
     EXPECT_EQ(mesDelOrdinal(a, 101), 2) << "an empty month never wins";
-    EXPECT_EQ(mesDelOrdinal(a, 250), 2);
     EXPECT_EQ(mesDelOrdinal(a, 251), 3);
-    EXPECT_EQ(mesDelOrdinal(a, 300), 3);
     EXPECT_EQ(mesDelOrdinal(a, 301), -1);
     EXPECT_EQ(mesDelOrdinal(Acumulados{}, 0), 0);
     EXPECT_EQ(mesDelOrdinal(Acumulados{}, 1), -1);
@@ -147,8 +114,6 @@ TEST(FechaDatos, ReadAsNumbersWithDayAndMonthZeroFilled)
     test::escribirFecha("5", "11", "2009");
     EXPECT_EQ(fechaDatos(false), QStringLiteral("05/11/2009"));
     EXPECT_EQ(fechaDatos(true), QStringLiteral("11/05/2009"));
-    test::escribirFecha("10", "9", "2010");
-    EXPECT_EQ(fechaDatos(false), QStringLiteral("10/09/2010"));
     test::escribirFecha("09", "10", "2010");
     EXPECT_EQ(fechaDatos(false), QStringLiteral("09/10/2010"));
 }
@@ -157,7 +122,7 @@ TEST(Idioma, TheLoadedTableNamesItsCodeAndUnknownCodesAreSpanish)
 {
     const struct {
         int pedido, cargado;
-    } rows[] = {{1, 1}, {2, 2}, {4, 4}, {0, 1}, {3, 1}, {9, 1}};
+    } rows[] = {{2, 2}, {4, 4}, {0, 1}, {3, 1}};
     for (const auto &row : rows) {
         cargarIdioma(row.pedido);
         EXPECT_EQ(idiomaCargado(), row.cargado) << row.pedido;

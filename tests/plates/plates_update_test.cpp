@@ -381,24 +381,6 @@ TEST_F(PlatesImportTest, AWildcardThatFindsAFileCountsAsFound)
         << "without a wildcard the platform's own look-up decides";
 }
 
-TEST_F(PlatesImportTest, AFileWithAnotherIdentityChangesNothing)
-{
-    datosAntiguos();
-    Documento d = Documento::mesesIguales(100000, "5", "3", "2011");
-    d.identity = "Matriculas Zafro ";
-    const QString path = writeFile(d.xml(), QStringLiteral("otro.zfx"));
-    fakes().desktop.files.insert(path);
-    openPlates();
-    MatimportacionWindow *import = openImport();
-    get<QLineEdit>(import, "Text1")->setText(path);
-    QTest::mouseClick(get(import, "Command1"), Qt::LeftButton);
-    hastaElAnalisis(*import->descarga()->cycle());
-    EXPECT_EQ(messageTexts().size(), 1);
-    EXPECT_EQ(label(import, "Labeln9"), QStringLiteral("No conectado al servidor"));
-    EXPECT_EQ(stored(QStringLiteral("201012")), QString());
-    EXPECT_EQ(stored(QStringLiteral("act1")), QStringLiteral("1"));
-}
-
 // --- The bundled document ----------------------------------------------------------------
 
 TEST_F(PlatesImportTest, TheBundledDocumentImportsAndMeetsThePublicMilestones)
