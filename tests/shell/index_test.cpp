@@ -87,34 +87,29 @@ protected:
     }
 };
 
-TEST_F(Launcher, TheLoadCountsTheVisitAndSettlesItsSettings)
+TEST_F(Launcher, TheLoadCountsTheVisitAndStoresTheFallbackSkinOnlyAtTheFirst)
 {
-    writeConfig(QStringLiteral("topopen"), QStringLiteral("2"));
-    IndexWindow *index = open();
-    EXPECT_EQ(stored(QStringLiteral("Visitado")), QStringLiteral("6"));
-    EXPECT_EQ(label(index, QStringLiteral("Label2"))->text(),
-              QStringLiteral("has estado aqui 6 veces"));
-    EXPECT_EQ(stored(QStringLiteral("hora")), QStringLiteral("1"));
-    EXPECT_EQ(stored(QStringLiteral("fecha")), QStringLiteral("1"));
-    EXPECT_EQ(stored(QStringLiteral("topopen")), QStringLiteral("2"));
-    EXPECT_TRUE(index->findChild<QPushButton *>(QStringLiteral("Command9"))->isHidden());
-    EXPECT_FALSE(index->findChild<QPushButton *>(QStringLiteral("Command10"))->isHidden());
-    EXPECT_EQ(stored(QStringLiteral("Tipo"), QStringLiteral("Colores")), QStringLiteral("4"))
-        << "a later visit leaves the skin alone";
-    EXPECT_TRUE(index->windowFlags() & Qt::FramelessWindowHint);
-    EXPECT_FALSE(index->mask().isEmpty());
-}
-
-TEST_F(Launcher, AVisitCountOfOneOrLessStoresTheFallbackSkin)
-{
-    BorrarClave(configPath(QStringLiteral("Visitado")));
-    IndexWindow *index = open();
-    EXPECT_EQ(index->visitas(), 1);
-    EXPECT_EQ(stored(QStringLiteral("Tipo"), QStringLiteral("Colores")), QStringLiteral("2"));
-    EXPECT_EQ(stored(QStringLiteral("Visitado")), QStringLiteral("1"));
-    EXPECT_EQ(stored(QStringLiteral("topopen")), QStringLiteral("1"));
-    EXPECT_FALSE(index->findChild<QPushButton *>(QStringLiteral("Command9"))->isHidden());
-    EXPECT_TRUE(index->isVisible()) << "the show that led to the load wins over the hide";
+    const struct {
+        const char *name, *visitado, *visits, *skin;
+    } rows[] = {{"a later visit", "5", "6", "4"}, {"no count yet", nullptr, "1", "2"}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        guardarSkin(4);
+        row.visitado ? writeConfig(QStringLiteral("Visitado"), QLatin1String(row.visitado))
+                     : BorrarClave(configPath(QStringLiteral("Visitado")));
+        IndexWindow *index = open();
+        EXPECT_EQ(stored(QStringLiteral("Visitado")), QLatin1String(row.visits));
+        EXPECT_EQ(label(index, QStringLiteral("Label2"))->text(),
+                  QStringLiteral("has estado aqui %1 veces").arg(QLatin1String(row.visits)));
+        EXPECT_EQ(stored(QStringLiteral("Tipo"), QStringLiteral("Colores")),
+                  QLatin1String(row.skin));
+        EXPECT_EQ(stored(QStringLiteral("hora")) + stored(QStringLiteral("fecha")),
+                  QStringLiteral("11"));
+        EXPECT_TRUE(index->isVisible()) << "the show that led to the load wins over the hide";
+        EXPECT_TRUE(index->windowFlags() & Qt::FramelessWindowHint);
+        EXPECT_FALSE(index->mask().isEmpty());
+        forms().unloadAll();
+    }
 }
 
 TEST_F(Launcher, TheLoadWritesTheMakersValuesAndClearsOnlyTheMakersWarning)
@@ -192,19 +187,15 @@ TEST_F(Launcher, AToolOpensOnceAndLaterClicksOnlyRaiseIt)
     EXPECT_EQ(CountingTool::loads, 1);
     EXPECT_TRUE(index->isVisible()) << "the launcher stays open";
 
+    forms().registerForm(QStringLiteral("matriculasselect"), [] { return new CountingTool; });
+    index->labelClick(QStringLiteral("Labelcom19c"));
+    EXPECT_EQ(CountingTool::lsAtLoad, QStringLiteral("1")) << "the plates window knows its host";
+
     // Places held for later do nothing.
     const QStringList before = forms().loadedNames();
     index->labelClick(QStringLiteral("Labelcom13"));
     index->labelClick(QStringLiteral("Labelcom15"));
     EXPECT_EQ(forms().loadedNames(), before);
-}
-
-TEST_F(Launcher, ThePlatesLabelTellsThePlatesWindowBeforeItLoads)
-{
-    forms().registerForm(QStringLiteral("matriculasselect"), [] { return new CountingTool; });
-    IndexWindow *index = open();
-    index->labelClick(QStringLiteral("Labelcom19c"));
-    EXPECT_EQ(CountingTool::lsAtLoad, QStringLiteral("1"));
 }
 
 TEST_F(Launcher, TheCurrencyLabelDropsTheUpdateWindowAndSomeLabelsResetColoursFirst)
@@ -323,12 +314,6 @@ TEST_F(Launcher, TheSiteTheChangeListAndTheShellWindows)
         EXPECT_NE(forms().find(QLatin1String(name)), nullptr) << name;
 }
 
-} // namespace
-} // namespace zafro
-
-namespace zafro {
-namespace {
-
 TEST_F(Launcher, EveryBuiltToolOpensFromItsLabelInTheCurrentLanguage)
 {
     CargarIngles();
@@ -354,12 +339,6 @@ TEST_F(Launcher, EveryBuiltToolOpensFromItsLabelInTheCurrentLanguage)
     }
     EXPECT_TRUE(index->isVisible());
 }
-
-} // namespace
-} // namespace zafro
-
-namespace zafro {
-namespace {
 
 TEST_F(Launcher, TheHiddenBenchEvaluatesWithAFreshObjectPerClick)
 {
