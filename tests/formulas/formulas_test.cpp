@@ -17,6 +17,7 @@ static void PrintTo(const QString &text, std::ostream *os)
 namespace zafro {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
 using test::errorNumber;
 
 // --- the grammar, one named row per expression, each on a fresh evaluator ----------
@@ -129,63 +130,41 @@ TEST(FormulaRegion, ReadsBothDecimalMarksAndWritesTheRegions)
         SCOPED_TRACE(mark.toLatin1());
         ScopedDecimalMark region(mark);
         cFormulas formulas;
-        EXPECT_EQ(formulas.Formula(QStringLiteral("1,5+1.5")), QStringLiteral("3"));
-        EXPECT_EQ(formulas.Formula(QStringLiteral("1/4")),
-                  QStringLiteral("0") + mark + QStringLiteral("25"));
-        EXPECT_EQ(formulas.Formula(QStringLiteral("1.25*2")),
-                  QStringLiteral("2") + mark + QStringLiteral("5"));
+        EXPECT_EQ(formulas.Formula(u"1,5+1.5"_s), u"3"_s);
+        EXPECT_EQ(formulas.Formula(u"1/4"_s), u"0"_s + mark + u"25"_s);
+        EXPECT_EQ(formulas.Formula(u"1.25*2"_s), u"2"_s + mark + u"5"_s);
     }
 }
 
 // --- state of one object ---------------------------------------------------------
 
-TEST(FormulaState, VariablesLiveFromOneCallToTheNext)
-{
-    cFormulas formulas;
-    EXPECT_EQ(formulas.Formula(QStringLiteral("x=5")), QString());
-    EXPECT_EQ(formulas.Formula(QStringLiteral("x*2")), QStringLiteral("10"));
-    // kept: a value is stored as typed and evaluated where it is met
-    EXPECT_EQ(formulas.Formula(QStringLiteral("y=2+3")), QString());
-    EXPECT_EQ(formulas.VariableVal(QStringLiteral("y")), QStringLiteral("2+3"));
-    EXPECT_EQ(formulas.Formula(QStringLiteral("y*2")), QStringLiteral("10"));
-}
-
-TEST(FormulaState, AssigningAKnownNameIsAsymmetric)
-{
-    cFormulas formulas;
-    formulas.NewVariable(QStringLiteral("x"), QStringLiteral("5"));
-    formulas.Formula(QStringLiteral("x=x+1"));
-    EXPECT_EQ(formulas.VariableVal(QStringLiteral("x")), QStringLiteral("6"));
-    formulas.Formula(QStringLiteral("X=x*3"));
-    EXPECT_EQ(formulas.VariableVal(QStringLiteral("x")), QStringLiteral("18"));
-    formulas.Formula(QStringLiteral("x=2+3"));
-    EXPECT_EQ(formulas.VariableVal(QStringLiteral("x")), QStringLiteral("2"));
-}
-
-TEST(FormulaState, NotacionCientificaIsRestoredAfterEachCall)
+TEST(FormulaState, OneObjectKeepsItsVariablesAndFlagsFromOneCallToTheNext)
 {
     ScopedDecimalMark region(u'.');
+    // kept: a value is stored as typed and evaluated where it is met; assigning a known
+    // name evaluates the right side only up to its first operator; and the flag of a
+    // primitive's value outlives the call, so the next plain sum on this object is text.
+    const struct {
+        const char *expresion, *resultado, *variable, *valor;
+    } pasos[] = {
+        {"x=5", "", "x", "5"},     {"x*2", "10", "x", "5"},
+        {"y=2+3", "", "y", "2+3"}, {"y*2", "10", "y", "2+3"},
+        {"x=x+1", "", "x", "6"},   {"X=x*3", "", "x", "18"},
+        {"x=2+3", "", "x", "2"},   {"Hex(255)", "FF", "x", "2"},
+        {"2+3", "2+3", "x", "2"},  {"2*3", "6", "x", "2"},
+        {"2+3", "5", "x", "2"},    {"2^100", "1.26765060022823E+30", "x", "2"},
+    };
     cFormulas formulas;
-    EXPECT_TRUE(formulas.NotacionCientifica());
-    EXPECT_EQ(formulas.Formula(QStringLiteral("Hex(255)")), QStringLiteral("FF"));
-    EXPECT_TRUE(formulas.NotacionCientifica());
-    EXPECT_EQ(formulas.Formula(QStringLiteral("2^100")), QStringLiteral("1.26765060022823E+30"));
-
+    for (const auto &paso : pasos) {
+        SCOPED_TRACE(paso.expresion);
+        EXPECT_EQ(formulas.Formula(QLatin1String(paso.expresion)), QLatin1String(paso.resultado));
+        EXPECT_EQ(formulas.VariableVal(QLatin1String(paso.variable)), QLatin1String(paso.valor));
+        EXPECT_TRUE(formulas.NotacionCientifica()) << "restored after each call";
+    }
     cFormulas sinNotacion;
     sinNotacion.NotacionCientifica(false);
-    EXPECT_EQ(sinNotacion.Formula(QStringLiteral("1/3")),
-              QStringLiteral("0.3333333333333333333333333333"));
+    EXPECT_EQ(sinNotacion.Formula(u"1/3"_s), u"0.3333333333333333333333333333"_s);
     EXPECT_FALSE(sinNotacion.NotacionCientifica());
-}
-
-TEST(FormulaState, APrimitiveValueStaysLiteralUntilAnOperatorClearsIt)
-{
-    cFormulas formulas;
-    EXPECT_EQ(formulas.Formula(QStringLiteral("Hex(255)")), QStringLiteral("FF"));
-    // kept: the flag outlives the call, so the next plain sum on this object is text
-    EXPECT_EQ(formulas.Formula(QStringLiteral("2+3")), QStringLiteral("2+3"));
-    EXPECT_EQ(formulas.Formula(QStringLiteral("2*3")), QStringLiteral("6"));
-    EXPECT_EQ(formulas.Formula(QStringLiteral("2+3")), QStringLiteral("5"));
 }
 
 TEST(FormulaState, RndGivesTheGeneratorsNextNumber)
@@ -193,19 +172,19 @@ TEST(FormulaState, RndGivesTheGeneratorsNextNumber)
     ScopedDecimalMark region(u'.');
     ClassicRandom same; // the test's generator starts from the same state
     cFormulas formulas;
-    EXPECT_EQ(formulas.Formula(QStringLiteral("Rnd")), CStr(same.rnd()));
-    const double scaled = formulas.Formula(QStringLiteral("Rnd*10")).toDouble();
+    EXPECT_EQ(formulas.Formula(u"Rnd"_s), CStr(same.rnd()));
+    const double scaled = formulas.Formula(u"Rnd*10"_s).toDouble();
     EXPECT_NEAR(scaled, double(same.rnd()) * 10, 1e-5);
 }
 
 // --- faults ------------------------------------------------------------------------
 
-TEST(FormulaFaults, NumericFaultsReachTheCaller)
+TEST(FormulaFaults, ReachTheCallerAsRunTimeErrorsAndLeaveTheObjectUsable)
 {
     const struct {
         const char *expresion;
         int error;
-    } rows[] = {
+    } filas[] = {
         {"Sqr(-1)", 5},
         {"Log(0)", 5},
         {"(-8)^0.5", 5},
@@ -215,39 +194,15 @@ TEST(FormulaFaults, NumericFaultsReachTheCaller)
         {"Bin2Dec(11111111111111111111111111111111)", 6},
         {"Hex(1E+10)", 6},
         {"5\\0.4", 11},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.expresion);
-        cFormulas formulas;
-        EXPECT_EQ(errorNumber([&] { formulas.Formula(QString::fromUtf8(row.expresion)); }),
-                  row.error);
-    }
-    cFormulas formulas;
-    EXPECT_EQ(formulas.Formula(QStringLiteral("70000000000000*1000000000000000")),
-              QStringLiteral("7E+28"));
-    // kept: the sign of an exponent is an operator to the bracketing, 1E+(28*7)
-    EXPECT_EQ(errorNumber([&] { formulas.Formula(QStringLiteral("1E+28*7")); }), 6);
-}
-
-TEST(FormulaFaults, AValueThatNamesItselfRunsOutOfStack)
-{
-    for (const char *expresion : {"y=y:y", "x=x+1:x*2", "a=b:b=a:a", "z=Sqr(z):z"}) {
-        SCOPED_TRACE(expresion);
-        cFormulas formulas;
-        EXPECT_EQ(errorNumber([&] { formulas.Formula(QString::fromUtf8(expresion)); }), 28);
-        // the object is still usable: the guard unwinds its count
-        EXPECT_EQ(formulas.Formula(QStringLiteral("2*3")), QStringLiteral("6"));
-    }
-}
-
-TEST(FormulaFaults, RunawayWorkEndsInItsRunTimeError)
-{
-    // kept: the "*-" rewriting copies the text from the "*-" on, and each bracket it
-    // makes holds the same pattern again, longer
-    const struct {
-        const char *expresion;
-        int error;
-    } filas[] = {
+        // kept: the sign of an exponent is an operator to the bracketing, 1E+(28*7)
+        {"1E+28*7", 6},
+        // a value that names itself runs out of stack
+        {"y=y:y", 28},
+        {"x=x+1:x*2", 28},
+        {"a=b:b=a:a", 28},
+        {"z=Sqr(z):z", 28},
+        // kept: the "*-" rewriting copies the text from the "*-" on, and each bracket it
+        // makes holds the same pattern again, longer
         {"2*-4+1*3/5", 7},
         // work that grows exponentially while the text stays short
         {"a=1:b=a*a*a:c=b*b*b:d=c*c*c:e=d*d*d:f=e*e*e:g=f*f*f:h=g*g*g:i=h*h*h:j=i*i*i:j", 28},
@@ -260,7 +215,11 @@ TEST(FormulaFaults, RunawayWorkEndsInItsRunTimeError)
         cFormulas formulas;
         EXPECT_EQ(errorNumber([&] { formulas.Formula(QString::fromUtf8(fila.expresion)); }),
                   fila.error);
+        // the guards unwind their counts
+        EXPECT_EQ(formulas.Formula(u"2*3"_s), u"6"_s);
     }
+    cFormulas formulas;
+    EXPECT_EQ(formulas.Formula(u"70000000000000*1000000000000000"_s), u"7E+28"_s);
 }
 
 // Long formulas that end under the rules finish, however long or deep they are.
@@ -272,25 +231,23 @@ TEST(FormulaFaults, LongAndDeepFormulasFinish)
             texto += pieza;
         return texto;
     };
-    const auto suma = [&](int terminos) {
-        return QStringLiteral("1") + repetir("+1", terminos - 1);
-    };
-    QString cadena = QStringLiteral("v0=7");
+    const auto suma = [&](int terminos) { return u"1"_s + repetir("+1", terminos - 1); };
+    QString cadena = u"v0=7"_s;
     for (int i = 1; i < 1000; ++i)
-        cadena += QStringLiteral(":v%1=v%2").arg(i).arg(i - 1);
-    cadena += QStringLiteral(":v999");
+        cadena += u":v%1=v%2"_s.arg(i).arg(i - 1);
+    cadena += u":v999"_s;
     const struct {
         const char *nombre;
         QString expresion;
         QString resultado;
     } filas[] = {
-        {"Sum1000", suma(1000), QStringLiteral("1000")},
-        {"Sum5000", suma(5000), QStringLiteral("5000")},
-        {"ChainOf1000Variables", cadena, QStringLiteral("7")},
-        {"Brackets1000Deep", repetir("(", 1000) + "42" + repetir(")", 1000), QStringLiteral("42")},
-        {"Calls1000Deep", repetir("Abs(", 1000) + "-3" + repetir(")", 1000), QStringLiteral("3")},
+        {"Sum1000", suma(1000), u"1000"_s},
+        {"Sum5000", suma(5000), u"5000"_s},
+        {"ChainOf1000Variables", cadena, u"7"_s},
+        {"Brackets1000Deep", repetir("(", 1000) + "42" + repetir(")", 1000), u"42"_s},
+        {"Calls1000Deep", repetir("Abs(", 1000) + "-3" + repetir(")", 1000), u"3"_s},
         // each call evaluates everything behind it, one level deeper per call
-        {"CallsInAChain", QStringLiteral("1") + repetir("*Sqr(1)", 100), QStringLiteral("1")},
+        {"CallsInAChain", u"1"_s + repetir("*Sqr(1)", 100), u"1"_s},
     };
     for (const auto &fila : filas) {
         SCOPED_TRACE(fila.nombre);
@@ -302,147 +259,129 @@ TEST(FormulaFaults, LongAndDeepFormulasFinish)
 TEST(FormulaFaults, TwoArgumentPrimitivesSwallowTheirErrors)
 {
     cFormulas formulas;
-    const QString mensaje =
-        QStringLiteral("Error: hay que usarla con @ o alguna variable no está definida");
-    EXPECT_EQ(formulas.FunctionVal(QStringLiteral("@Max(1,x)")), mensaje);
-    EXPECT_EQ(formulas.FunctionVal(QStringLiteral("@Bin(1E+20,4)")), mensaje);
-    EXPECT_EQ(formulas.FunctionVal(QStringLiteral("@Min(7)")), QStringLiteral("7"));
+    const QString mensaje = u"Error: hay que usarla con @ o alguna variable no está definida"_s;
+    EXPECT_EQ(formulas.FunctionVal(u"@Max(1,x)"_s), mensaje);
+    EXPECT_EQ(formulas.FunctionVal(u"@Bin(1E+20,4)"_s), mensaje);
+    EXPECT_EQ(formulas.FunctionVal(u"@Min(7)"_s), u"7"_s);
 }
 
 // --- tables --------------------------------------------------------------------------
 
-TEST(FormulaTables, StartWithPiAndTheThirtySixFunctions)
+TEST(FormulaTables, StartWithPiAndTheThirtySixFunctionsAndLookUpTrimmedInAnyCase)
 {
     cFormulas formulas;
     QStringList variables;
     formulas.ShowVariables(variables);
-    EXPECT_EQ(variables, QStringList{QStringLiteral("Pi = 3.1415926535897932384626433832795")});
-
+    EXPECT_EQ(variables, QStringList{u"Pi = 3.1415926535897932384626433832795"_s});
     QStringList funciones;
     formulas.ShowFunctions(funciones);
     ASSERT_EQ(funciones.size(), 36);
-    EXPECT_EQ(funciones.first(), QStringLiteral("Sum = Num1+Num2+... | Num1,Num2,..."));
-    EXPECT_EQ(funciones[5], QStringLiteral("Rnd = @Rnd | "));
-    EXPECT_EQ(funciones[11], QStringLiteral("Radianes2Grados = Num*(180/Pi) | Num"));
-    const QStringList primitivas = {"Int",     "Fix",     "Abs",    "Sgn",     "Sqr", "Cos",
-                                    "Sin",     "Tan",     "Atn",    "Exp",     "Log", "Ln",
-                                    "Log10",   "Round",   "Hex",    "Dec2Hex", "Oct", "Dec2Oct",
-                                    "Bin2Dec", "Hex2Dec", "Oct2Dec"};
-    for (int i = 0; i < primitivas.size(); ++i)
-        EXPECT_EQ(funciones[12 + i], primitivas[i] + " = @" + primitivas[i] + "(Num) | Num");
-    EXPECT_EQ(funciones.last(), QStringLiteral("CoTan = 1/Tan(Num) | Num"));
-
+    EXPECT_EQ(funciones.first(), u"Sum = Num1+Num2+... | Num1,Num2,..."_s);
+    EXPECT_EQ(funciones[5], u"Rnd = @Rnd | "_s);
+    EXPECT_EQ(funciones[12], u"Int = @Int(Num) | Num"_s);
+    EXPECT_EQ(funciones.last(), u"CoTan = 1/Tan(Num) | Num"_s);
     QStringList porElemento;
     formulas.ShowFunctions([&](const QString &linea) { porElemento << linea; });
     EXPECT_EQ(porElemento, funciones);
-}
 
-TEST(FormulaTables, LookupsTrimAndIgnoreCase)
-{
-    cFormulas formulas;
-    EXPECT_EQ(formulas.IsVariable(QStringLiteral(" pI ")), 1);
+    EXPECT_EQ(formulas.IsVariable(u" pI "_s), 1);
     EXPECT_EQ(formulas.IsVariable(QString()), 0);
-    EXPECT_EQ(formulas.IsFunction(QStringLiteral("sum")), 1);
-    EXPECT_EQ(formulas.IsFunction(QStringLiteral("COTAN")), 36);
-    EXPECT_EQ(formulas.IsFunction(QStringLiteral("Seno")), 0);
-    EXPECT_EQ(formulas.FunctionParams(QStringLiteral("logx")), QStringLiteral("Num,Base"));
-    EXPECT_EQ(formulas.FunctionFormula(QStringLiteral("Nada")), QString());
-    EXPECT_EQ(formulas.VariableVal(QStringLiteral("Nada")), QString());
-    EXPECT_TRUE(formulas.IsFuncOrVar(QStringLiteral("pi")));
-    EXPECT_TRUE(formulas.IsFuncOrVar(QStringLiteral("MAX")));
-    EXPECT_FALSE(formulas.IsFuncOrVar(QStringLiteral("x")));
+    EXPECT_EQ(formulas.IsFunction(u"sum"_s), 1);
+    EXPECT_EQ(formulas.IsFunction(u"COTAN"_s), 36);
+    EXPECT_EQ(formulas.IsFunction(u"Seno"_s), 0);
+    EXPECT_EQ(formulas.FunctionParams(u"logx"_s), u"Num,Base"_s);
+    EXPECT_EQ(formulas.FunctionFormula(u"Nada"_s), QString());
+    EXPECT_EQ(formulas.VariableVal(u"Nada"_s), QString());
+    EXPECT_TRUE(formulas.IsFuncOrVar(u"pi"_s));
+    EXPECT_TRUE(formulas.IsFuncOrVar(u"MAX"_s));
+    EXPECT_FALSE(formulas.IsFuncOrVar(u"x"_s));
 }
 
-TEST(FormulaTables, BuiltinFunctionsCannotBeRedefinedButOthersCan)
+TEST(FormulaTables, BuiltinFunctionsCannotBeRedefinedButOthersAndEvenPiCan)
 {
     cFormulas formulas;
-    formulas.NewFunction(QStringLiteral("max"), QStringLiteral("a"), QStringLiteral("a*2"));
-    EXPECT_EQ(formulas.FunctionFormula(QStringLiteral("Max")), QStringLiteral("@Max(Num1,Num2)"));
-    EXPECT_EQ(formulas.Formula(QStringLiteral("Max(1,2)")), QStringLiteral("2"));
+    formulas.NewFunction(u"max"_s, u"a"_s, u"a*2"_s);
+    EXPECT_EQ(formulas.FunctionFormula(u"Max"_s), u"@Max(Num1,Num2)"_s);
+    EXPECT_EQ(formulas.Formula(u"Max(1,2)"_s), u"2"_s);
+    formulas.NewFunction(u" Doble "_s, u" Num "_s, u" Num*2 "_s);
+    EXPECT_EQ(formulas.IsFunction(u"Doble"_s), 37);
+    EXPECT_EQ(formulas.FunctionParams(u"Doble"_s), u"Num"_s);
+    EXPECT_EQ(formulas.Formula(u"Doble(4)"_s), u"8"_s);
+    formulas.NewFunction(u"DOBLE"_s, u"Num"_s, u"Num*3"_s);
+    EXPECT_EQ(formulas.Formula(u"Doble(4)"_s), u"12"_s);
 
-    formulas.NewFunction(QStringLiteral(" Doble "), QStringLiteral(" Num "),
-                         QStringLiteral(" Num*2 "));
-    EXPECT_EQ(formulas.IsFunction(QStringLiteral("Doble")), 37);
-    EXPECT_EQ(formulas.FunctionParams(QStringLiteral("Doble")), QStringLiteral("Num"));
-    EXPECT_EQ(formulas.Formula(QStringLiteral("Doble(4)")), QStringLiteral("8"));
-    formulas.NewFunction(QStringLiteral("DOBLE"), QStringLiteral("Num"), QStringLiteral("Num*3"));
-    EXPECT_EQ(formulas.Formula(QStringLiteral("Doble(4)")), QStringLiteral("12"));
-}
-
-TEST(FormulaTables, NewVariableOverwritesEvenPi)
-{
-    cFormulas formulas;
-    formulas.NewVariable(QStringLiteral("Pi"), QStringLiteral("3"));
-    EXPECT_EQ(formulas.Formula(QStringLiteral("Pi*2")), QStringLiteral("6"));
-    formulas.NewVariable(QStringLiteral("r"), QStringLiteral(" 2 "));
-    EXPECT_EQ(formulas.VariableVal(QStringLiteral("R")), QStringLiteral("2"));
+    formulas.NewVariable(u"Pi"_s, u"3"_s);
+    EXPECT_EQ(formulas.Formula(u"Pi*2"_s), u"6"_s);
+    formulas.NewVariable(u"r"_s, u" 2 "_s);
+    EXPECT_EQ(formulas.VariableVal(u"R"_s), u"2"_s);
     QStringList variables;
     formulas.ShowVariables(variables);
-    EXPECT_EQ(variables, (QStringList{QStringLiteral("Pi = 3"), QStringLiteral("r = 2")}));
+    EXPECT_EQ(variables, (QStringList{u"Pi = 3"_s, u"r = 2"_s}));
 }
 
 // --- the text operations ---------------------------------------------------------------
 
-TEST(FormulaText, MTrimDropsBlanksOutsideQuotes)
+TEST(FormulaText, HelpersKeepTheirOddities)
 {
-    cFormulas formulas;
-    const QString comilla = QStringLiteral("\"");
-    EXPECT_EQ(formulas.MTrim(QStringLiteral("1 +\t\"a b\" + 2"), comilla),
-              QStringLiteral("1+\"a b\"+2"));
-    EXPECT_EQ(formulas.MTrim(QStringLiteral("a \"b c"), comilla), QStringLiteral("a\"b c\""));
-    EXPECT_EQ(formulas.MTrim(QStringLiteral("1") + QChar(0) + QStringLiteral(" 2"), comilla),
-              QStringLiteral("12"));
-}
+    cFormulas f;
+    f.NewVariable(u"x"_s, u"7"_s);
+    const QString q = u"\""_s; // the quote that protects text
+    EXPECT_EQ(f.MTrim(u"1 +\t\"a b\" + 2"_s, q), u"1+\"a b\"+2"_s);
+    EXPECT_EQ(f.MTrim(u"a \"b c"_s, q), u"a\"b c\""_s) << "an open quote is closed";
+    EXPECT_EQ(f.MTrim(u"1"_s + QChar(0) + u" 2"_s, q), u"12"_s);
+    EXPECT_EQ(f.AsignarVariables(u"a=2:b=3:a+b"_s, q), u"a+b"_s);
+    EXPECT_EQ(f.VariableVal(u"b"_s), u"3"_s);
+    EXPECT_EQ(f.AsignarVariables(u"1+2:z=3"_s, q), u"1+2"_s);
+    EXPECT_EQ(f.VariableVal(u"z"_s), u"3"_s);
+    EXPECT_EQ(f.AsignarVariables(u"1+\"ab\"+2"_s, q), u"\"ab\"1++2"_s);
 
-TEST(FormulaText, AsignarVariablesLeavesTheExpression)
-{
-    cFormulas formulas;
-    const QString comilla = QStringLiteral("\"");
-    EXPECT_EQ(formulas.AsignarVariables(QStringLiteral("x=2:y=3:x+y"), comilla),
-              QStringLiteral("x+y"));
-    EXPECT_EQ(formulas.VariableVal(QStringLiteral("y")), QStringLiteral("3"));
-    EXPECT_EQ(formulas.AsignarVariables(QStringLiteral("1+2:z=3"), comilla), QStringLiteral("1+2"));
-    EXPECT_EQ(formulas.VariableVal(QStringLiteral("z")), QStringLiteral("3"));
-    EXPECT_EQ(formulas.AsignarVariables(QStringLiteral("1+\"ab\"+2"), comilla),
-              QStringLiteral("\"ab\"1++2"));
-}
-
-TEST(FormulaText, MultInStrFindsTheEarliestTokenAndKeepsTheFirstOnATie)
-{
-    cFormulas formulas;
-    QString token;
-    EXPECT_EQ(formulas.MultInStr(QStringLiteral("a+b*c"), QStringLiteral("* +"), token), 2);
-    EXPECT_EQ(token, QStringLiteral("+"));
-    EXPECT_EQ(formulas.MultInStr(QStringLiteral("a>=b"), QStringLiteral("= >="), token), 2);
-    EXPECT_EQ(token, QStringLiteral(">="));
-    EXPECT_EQ(formulas.MultInStr(QStringLiteral("a//b"), QStringLiteral("/ //  "), token), 2);
-    EXPECT_EQ(token, QStringLiteral("/"));
-    EXPECT_EQ(formulas.MultInStr(QStringLiteral("a+b+c"), QStringLiteral("+"), token, 3), 4);
-    EXPECT_EQ(formulas.MultInStr(QStringLiteral("SQR(2)"), QStringLiteral("Sqr("), token), 1);
-    EXPECT_EQ(formulas.MultInStr(QStringLiteral("abc"), QStringLiteral("x y"), token), 0);
-    EXPECT_EQ(token, QString());
-}
-
-TEST(FormulaText, RInStrSearchesLeftOfTheStart)
-{
-    cFormulas formulas;
-    const QString texto = QStringLiteral("abcABC");
-    EXPECT_EQ(formulas.RInStr(texto, QStringLiteral("bc")), 5);
-    EXPECT_EQ(formulas.RInStr(6, texto, QStringLiteral("bc")), 5);
-    EXPECT_EQ(formulas.RInStr(5, texto, QStringLiteral("bc")), 2);
-    EXPECT_EQ(formulas.RInStr(2, texto, QStringLiteral("bc")), 0);
-    EXPECT_EQ(formulas.RInStr(0, texto, QStringLiteral("a")), 0);
-}
-
-TEST(FormulaText, ParseFormulaReplacesOnlyWholeTokens)
-{
-    cFormulas formulas;
-    formulas.NewVariable(QStringLiteral("x"), QStringLiteral("7"));
-    EXPECT_EQ(formulas.ParseFormula(QStringLiteral("x+5")), QStringLiteral("7+5"));
+    const auto multInStr = [&f](const QString &texto, const QString &tokens, int inicio = 1) {
+        QString token;
+        const qint32 donde = f.MultInStr(texto, tokens, token, inicio);
+        return QString::number(donde) + u'|' + token;
+    };
+    EXPECT_EQ(multInStr(u"a+b*c"_s, u"* +"_s), u"2|+"_s) << "the earliest";
+    EXPECT_EQ(multInStr(u"a>=b"_s, u"= >="_s), u"2|>="_s) << "the longer at one place";
+    EXPECT_EQ(multInStr(u"a//b"_s, u"/ //  "_s), u"2|/"_s) << "the first on a tie";
+    EXPECT_EQ(multInStr(u"a+b+c"_s, u"+"_s, 3), u"4|+"_s);
+    EXPECT_EQ(multInStr(u"SQR(2)"_s, u"Sqr("_s), u"1|Sqr("_s);
+    EXPECT_EQ(multInStr(u"abc"_s, u"x y"_s), u"0|"_s);
+    EXPECT_EQ(f.RInStr(u"abcABC"_s, u"bc"_s), 5);
+    EXPECT_EQ(f.RInStr(5, u"abcABC"_s, u"bc"_s), 2);
+    EXPECT_EQ(f.RInStr(2, u"abcABC"_s, u"bc"_s), 0);
+    EXPECT_EQ(f.RInStr(0, u"abcABC"_s, u"a"_s), 0);
     // "%" and "," separate no tokens
-    EXPECT_EQ(formulas.ParseFormula(QStringLiteral("x%5")), QStringLiteral("x%5"));
-    EXPECT_EQ(formulas.ParseFormula(QStringLiteral("x,x")), QStringLiteral("x,x"));
-    EXPECT_EQ(formulas.ParseFormula(QStringLiteral("(x)*x")), QStringLiteral("(7)*7"));
+    EXPECT_EQ(f.ParseFormula(u"(x)*x+5"_s), u"(7)*7+5"_s);
+    EXPECT_EQ(f.ParseFormula(u"x%5"_s), u"x%5"_s);
+    EXPECT_EQ(f.ParseFormula(u"x,x"_s), u"x,x"_s);
+
+    const auto expandir = [&f](const QString &formula, const QString &params, QString resto) {
+        const QString expandida = f.ConvertirParametros(formula, params, resto);
+        return expandida + u'|' + resto;
+    };
+    EXPECT_EQ(expandir(u"Num1+Num2+..."_s, u"Num1,Num2,..."_s, u"(1,2,3,4)"_s),
+              u"(1)+(2)+(3)+(4)|"_s);
+    EXPECT_EQ(expandir(u"@Bin(Num,Precision)"_s, u"Num,Precision"_s, u"(7)"_s), u"@Bin((7),())|"_s);
+    EXPECT_EQ(expandir(u"@Sqr(Num)"_s, u"Num"_s, u"+1"_s), u"|+1"_s) << "no list";
+    // The one-parameter expansion stops growing at 3072 characters.
+    const QString larga = expandir(u"@Sqr(Num)"_s, u"Num"_s, u"(Num)+1"_s);
+    EXPECT_GE(larga.size(), 3072 + 3);
+    EXPECT_LT(larga.size(), 3072 + 5 + 3);
+    EXPECT_TRUE(larga.startsWith(u"@Sqr(((("_s));
+    EXPECT_TRUE(larga.endsWith(u"|+1"_s));
+
+    EXPECT_EQ(f.Dec2Bin(5, 4), u"0101"_s);
+    EXPECT_EQ(f.Dec2Bin(-1, 8), u"11111111"_s);
+    EXPECT_EQ(f.Dec2Bin(5, 0), QString());
+    EXPECT_EQ(f.Dec2Bin(1, 32), u"Error: Desbordamiento, al convertir 2^31"_s);
+    EXPECT_EQ(f.Bin2Dec(u"101"_s), 5);
+    EXPECT_EQ(f.Bin2Dec(u"1 0 1"_s), 5) << "blanks are dropped";
+    EXPECT_EQ(f.Bin2Dec(u"1x1"_s), 5) << "other characters count as 0";
+    EXPECT_EQ(errorNumber([&] { f.Bin2Dec(u"1"_s + QString(31, u'0')); }), 6);
+    EXPECT_TRUE(f.MultipleStr2InStr1(u"1+2*3"_s, u"%^*/\\+-"_s));
+    EXPECT_FALSE(f.MultipleStr2InStr1(u"1+2+3"_s, u"%^*/\\+-"_s));
+    EXPECT_TRUE(f.IsFunVB(u"@sqr(4)"_s));
+    EXPECT_FALSE(f.IsFunVB(u"@Max(1,2)"_s));
 }
 
 TEST(FormulaText, ConvDecimalTakesEitherMark)
@@ -460,71 +399,19 @@ TEST(FormulaText, ConvDecimalTakesEitherMark)
             EXPECT_EQ(formulas.ConvDecimal(QString::fromUtf8(row.entrada), decimal, miles),
                       QString::fromUtf8(row.salida))
                 << row.entrada;
-        EXPECT_EQ(decimal, QStringLiteral("."));
-        EXPECT_EQ(miles, QStringLiteral(","));
+        EXPECT_EQ(decimal + miles, u".,"_s);
     }
     ScopedDecimalMark region(u',');
-    EXPECT_EQ(formulas.ConvDecimal(QStringLiteral("1.5"), decimal, miles), QStringLiteral("1,5"));
-    EXPECT_EQ(formulas.ConvDecimal(QStringLiteral("1.000.000"), decimal, miles),
-              QStringLiteral("1000,000"));
-    EXPECT_EQ(decimal, QStringLiteral(","));
-    EXPECT_EQ(miles, QStringLiteral("."));
-}
-
-TEST(FormulaText, ConvertirParametrosStopsGrowingAt3072)
-{
-    cFormulas formulas;
-    QString resto = QStringLiteral("(Num)+1");
-    const QString formula =
-        formulas.ConvertirParametros(QStringLiteral("@Sqr(Num)"), QStringLiteral("Num"), resto);
-    EXPECT_GE(formula.size(), 3072);
-    EXPECT_LT(formula.size(), 3072 + 5);
-    EXPECT_TRUE(formula.startsWith(QStringLiteral("@Sqr((((")));
-    EXPECT_EQ(resto, QStringLiteral("+1"));
-
-    QString sinLista = QStringLiteral("+1");
-    EXPECT_EQ(
-        formulas.ConvertirParametros(QStringLiteral("@Sqr(Num)"), QStringLiteral("Num"), sinLista),
-        QString());
-}
-
-TEST(FormulaText, ConvertirParametrosExpandsVariadicFormulas)
-{
-    cFormulas formulas;
-    QString resto = QStringLiteral("(1,2,3,4)");
-    EXPECT_EQ(formulas.ConvertirParametros(QStringLiteral("Num1+Num2+..."),
-                                           QStringLiteral("Num1,Num2,..."), resto),
-              QStringLiteral("(1)+(2)+(3)+(4)"));
-    resto = QStringLiteral("(7)");
-    EXPECT_EQ(formulas.ConvertirParametros(QStringLiteral("@Bin(Num,Precision)"),
-                                           QStringLiteral("Num,Precision"), resto),
-              QStringLiteral("@Bin((7),())"));
-}
-
-TEST(FormulaText, SmallHelpers)
-{
-    cFormulas formulas;
-    const QString operadores = QStringLiteral("%^*/\\+-");
-    EXPECT_TRUE(formulas.MultipleStr2InStr1(QStringLiteral("1+2*3"), operadores));
-    EXPECT_FALSE(formulas.MultipleStr2InStr1(QStringLiteral("1+2+3"), operadores));
-    EXPECT_TRUE(formulas.IsFunVB(QStringLiteral("@sqr(4)")));
-    EXPECT_FALSE(formulas.IsFunVB(QStringLiteral("@Max(1,2)")));
-
-    EXPECT_EQ(formulas.Dec2Bin(5, 4), QStringLiteral("0101"));
-    EXPECT_EQ(formulas.Dec2Bin(-1, 8), QStringLiteral("11111111"));
-    EXPECT_EQ(formulas.Dec2Bin(5, 0), QString());
-    EXPECT_EQ(formulas.Dec2Bin(1, 32), QStringLiteral("Error: Desbordamiento, al convertir 2^31"));
-    EXPECT_EQ(formulas.Bin2Dec(QStringLiteral("101")), 5);
-    EXPECT_EQ(formulas.Bin2Dec(QStringLiteral("1 0 1")), 5);
-    EXPECT_EQ(formulas.Bin2Dec(QStringLiteral("1x1")), 5);
-    EXPECT_EQ(errorNumber([&] { formulas.Bin2Dec(QStringLiteral("1") + QString(31, u'0')); }), 6);
+    EXPECT_EQ(formulas.ConvDecimal(u"1.5"_s, decimal, miles), u"1,5"_s);
+    EXPECT_EQ(formulas.ConvDecimal(u"1.000.000"_s, decimal, miles), u"1000,000"_s);
+    EXPECT_EQ(decimal + miles, u",."_s);
 }
 
 TEST(FormulaBench, CreatesAFreshEvaluatorPerCall)
 {
-    EXPECT_EQ(formulaBench(QStringLiteral("x=5")), QString());
-    EXPECT_EQ(formulaBench(QStringLiteral("x*2")), QStringLiteral("0"));
-    EXPECT_EQ(formulaBench(QStringLiteral("x=2:y=3:Max(x,y)*Sqr(16)")), QStringLiteral("12"));
+    EXPECT_EQ(formulaBench(u"x=5"_s), QString());
+    EXPECT_EQ(formulaBench(u"x*2"_s), u"0"_s);
+    EXPECT_EQ(formulaBench(u"x=2:y=3:Max(x,y)*Sqr(16)"_s), u"12"_s);
 }
 
 } // namespace

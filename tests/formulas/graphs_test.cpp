@@ -12,6 +12,8 @@
 namespace zafro {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 using test::errorNumber;
 
 Coordenadas estado(qint16 ecuacion, float a, float b, float c, float d = 0, float e = 0,
@@ -59,6 +61,9 @@ TEST(GraphSampling, CountsLikeASinglePrecisionLoopFromMinus100To100)
     ASSERT_EQ(lista.size(), 401);
     EXPECT_EQ(lista.first().x, -100.0f);
     EXPECT_EQ(lista.last().x, 100.0f);
+    // An equation never chosen draws nothing.
+    EXPECT_TRUE(puntos(estado(0, 1, 1, 3)).isEmpty());
+    EXPECT_TRUE(puntos(0, 1, 1, 1).isEmpty());
 }
 
 TEST(GraphSampling, NegativeZeroAndTooSmallSteps)
@@ -84,12 +89,6 @@ TEST(GraphSampling, NegativeZeroAndTooSmallSteps)
     bucle.avanzar(1000, lista);
     EXPECT_FALSE(bucle.sinAvance());
     EXPECT_GT(bucle.contador(), -100.0f);
-}
-
-TEST(GraphSampling, AnEquationNeverChosenDrawsNothing)
-{
-    EXPECT_TRUE(puntos(estado(0, 1, 1, 3)).isEmpty());
-    EXPECT_TRUE(puntos(0, 1, 1, 1).isEmpty());
 }
 
 // ---- the nine Cartesian equations ----
@@ -199,18 +198,23 @@ TEST(CartesianGraphs, TrigonometricFormsInRadians)
                 << caso.ecuacion << " at " << p.x;
 }
 
-TEST(CartesianGraphs, ListTextsFollowTheLanguage)
+TEST(CartesianGraphs, ListTextsFollowTheLanguageAndPolarTextsMatchExactly)
 {
     CargarEspanol();
-    EXPECT_EQ(ecuacionDeTexto(QStringLiteral("Parábola vertical")), ParabolaVertical);
-    EXPECT_EQ(ecuacionDeTexto(QStringLiteral("Tangente")), Tangente);
+    EXPECT_EQ(ecuacionDeTexto(u"Parábola vertical"_s), ParabolaVertical);
+    EXPECT_EQ(ecuacionDeTexto(u"Tangente"_s), Tangente);
     EXPECT_EQ(ecuacionDeTexto(QString()), 0);
-    EXPECT_EQ(notaDeEcuacion(Seno), QStringLiteral("(Radianes)"));
+    EXPECT_EQ(notaDeEcuacion(Seno), u"(Radianes)"_s);
     EXPECT_EQ(notaDeEcuacion(Hiperbola), QString());
     CargarIngles();
-    EXPECT_EQ(ecuacionDeTexto(QStringLiteral("Ellipse")), Elipse);
-    EXPECT_EQ(ecuacionDeTexto(QStringLiteral("Elipse")), 0);
+    EXPECT_EQ(ecuacionDeTexto(u"Ellipse"_s), Elipse);
+    EXPECT_EQ(ecuacionDeTexto(u"Elipse"_s), 0);
     EXPECT_EQ(textosDeEcuaciones().size(), 9);
+    // The polar combo matches exactly.
+    EXPECT_EQ(ecuacionPolarDeTexto(u"cos(z)"_s), 3);
+    EXPECT_EQ(ecuacionPolarDeTexto(u"cos(z)*sin(z)+sin(z)*sin(z)/cos(z)+c"_s), 10);
+    EXPECT_EQ(ecuacionPolarDeTexto(u"Z/C"_s), 0);
+    EXPECT_EQ(ecuacionPolarDeTexto(u"cos(z) "_s), 0);
 }
 
 // ---- the ten polar curves ----
@@ -275,15 +279,6 @@ TEST(PolarGraphs, Numbers9And10AreMirroredAboutTheDiagonal)
     ASSERT_GT(diez.size(), 200);
     const double z = std::atan2(diez[200].x, diez[200].y); // about 2: sin and cos swapped
     EXPECT_NEAR(z, 2.0, 0.05);
-}
-
-TEST(PolarGraphs, TheComboMatchesExactly)
-{
-    EXPECT_EQ(ecuacionPolarDeTexto(QStringLiteral("z/c")), 1);
-    EXPECT_EQ(ecuacionPolarDeTexto(QStringLiteral("cos(z)")), 3);
-    EXPECT_EQ(ecuacionPolarDeTexto(QStringLiteral("cos(z)*sin(z)+sin(z)*sin(z)/cos(z)+c")), 10);
-    EXPECT_EQ(ecuacionPolarDeTexto(QStringLiteral("Z/C")), 0);
-    EXPECT_EQ(ecuacionPolarDeTexto(QStringLiteral("cos(z) ")), 0);
 }
 
 } // namespace

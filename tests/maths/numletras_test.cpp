@@ -16,39 +16,36 @@
 namespace zafro {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 using test::fakes;
 
 TEST(NroEnLetras, SpellsEveryStepWithItsBlanksAndBrackets)
 {
+    // clang-format off
     const struct {
         const char *name;
         double numero;
         const char *letras;
-    } rows[] = {{"cero", 0, "CERO"},
-                {"medio", 0.5, "CERO CON 50/100"},
-                {"entreMenosUnoYCeroSinCero", -0.5, " CON 50/100"},
-                {"veintidos", 22, "VEINTIDOS"},
-                {"treintaYUno", 31, "TREINTA Y UNO"},
-                {"noventaYNueve", 99, "NOVENTA Y NUEVE"},
-                {"cientoQuince", 115, "CIENTO QUINCE"},
-                {"centenaSola", 300, "TRESCIENTOS "},
-                {"milConUn", 1000, "UN MIL "},
-                {"veintiunMil", 21000, "VEINTIUN MIL "},
-                {"dosMillones", 2e6, "DOS MILLONES "},
-                {"millonYMil", 1001000, "UN MILLON UN MIL "},
-                {"millonDeMillones", 1e12, "UN MILLON MILLONES "},
-                {"exponente", 1e15, "UN MIL MILLONES MILLONES "},
-                {"menosDoceSinParentesis", -12, "DOCE"},
-                {"menosTreinta", -30, "(TREINTA)"},
-                {"menosDiezConDecenas", -10.25, "(DIEZ CON 25/100)"},
-                {"mitadAlPar", 0.125, "CERO CON 12/100"},
-                {"cienCentesimas", 0.999, "CERO CON 100/100"}};
+    } rows[] = {
+        {"cero", 0, "CERO"}, {"medio", 0.5, "CERO CON 50/100"},
+        {"entreMenosUnoYCeroSinCero", -0.5, " CON 50/100"}, {"veintidos", 22, "VEINTIDOS"},
+        {"treintaYUno", 31, "TREINTA Y UNO"}, {"noventaYNueve", 99, "NOVENTA Y NUEVE"},
+        {"cientoQuince", 115, "CIENTO QUINCE"}, {"centenaSola", 300, "TRESCIENTOS "},
+        {"milConUn", 1000, "UN MIL "}, {"veintiunMil", 21000, "VEINTIUN MIL "},
+        {"dosMillones", 2e6, "DOS MILLONES "}, {"millonYMil", 1001000, "UN MILLON UN MIL "},
+        {"millonDeMillones", 1e12, "UN MILLON MILLONES "},
+        {"exponente", 1e15, "UN MIL MILLONES MILLONES "}, {"menosDoceSinParentesis", -12, "DOCE"},
+        {"menosTreinta", -30, "(TREINTA)"}, {"menosDiezConDecenas", -10.25, "(DIEZ CON 25/100)"},
+        {"mitadAlPar", 0.125, "CERO CON 12/100"}, {"cienCentesimas", 0.999, "CERO CON 100/100"},
+    };
+    // clang-format on
     for (const auto &row : rows)
         EXPECT_EQ(NroEnLetras(row.numero), QString::fromUtf8(row.letras)) << row.name;
-    EXPECT_EQ(NroEnLetras(21, false), QStringLiteral("VEINTIUN"));
+    EXPECT_EQ(NroEnLetras(21, false), u"VEINTIUN"_s);
     const QString nueves = QStringLiteral("NUEVE MILLONES NOVECIENTOS NOVENTA Y NUEVE MIL "
                                           "NOVECIENTOS NOVENTA Y NUEVE");
-    EXPECT_EQ(NroEnLetras(9999999999999), nueves + QStringLiteral(" MILLONES ") + nueves.mid(15));
+    EXPECT_EQ(NroEnLetras(9999999999999), nueves + u" MILLONES "_s + nueves.mid(15));
 }
 
 TEST(EnglishWords, KeepsTheWordsBlanksAndGroupsAsTheyAre)
@@ -84,9 +81,9 @@ protected:
     {
         guardarSkin(1);
         loader();
-        window = forms().show(QStringLiteral("numletras"));
-        numero = window->findChild<QLineEdit *>(QStringLiteral("Numero"));
-        letras = window->findChild<QLabel *>(QStringLiteral("Letras"));
+        window = forms().show(u"numletras"_s);
+        numero = window->findChild<QLineEdit *>(u"Numero"_s);
+        letras = window->findChild<QLabel *>(u"Letras"_s);
     }
     QString type(const char *keys)
     {
@@ -105,37 +102,37 @@ TEST_F(NumletrasWindowTest, SpanishWarnsAtEveryKeystrokeThatLeavesNoNumberInBoth
 {
     std::optional<ScopedDecimalMark> region(std::in_place, QLatin1Char(','));
     open(CargarEspanol);
-    EXPECT_EQ(numero->text(), QStringLiteral(","));
-    EXPECT_EQ(type("1x"), QStringLiteral("UNO"));
+    EXPECT_EQ(numero->text(), u","_s);
+    EXPECT_EQ(type("1x"), u"UNO"_s);
     ASSERT_EQ(messages(), 1); // at "x" only, none at load
     const test::MsgBoxCall &aviso = fakes().dialogs.messages.first();
-    EXPECT_EQ(aviso.text + aviso.title, QStringLiteral("Tienes que poner algun númeroAtencion"));
+    EXPECT_EQ(aviso.text + aviso.title, u"Tienes que poner algun númeroAtencion"_s);
     EXPECT_EQ(aviso.style, 64);
     QTest::keyClick(numero, Qt::Key_Backspace);
     QTest::keyClick(numero, Qt::Key_Backspace);
     EXPECT_EQ(messages(), 2); // the empty box too
-    EXPECT_EQ(type("2,5"), QStringLiteral("DOS CON 50/100"));
+    EXPECT_EQ(type("2,5"), u"DOS CON 50/100"_s);
     QTest::mouseClick(window, Qt::LeftButton, {}, QPoint(3, 3));
-    EXPECT_EQ(numero->text() + letras->text(), QStringLiteral("0,0"));
+    EXPECT_EQ(numero->text() + letras->text(), u"0,0"_s);
 
     region.emplace(QLatin1Char('.'));
-    EXPECT_EQ(type("2,5"), QStringLiteral("VEINTICINCO"));
-    EXPECT_EQ(type("2.5"), QStringLiteral("DOS CON 50/100"));
+    EXPECT_EQ(type("2,5"), u"VEINTICINCO"_s);
+    EXPECT_EQ(type("2.5"), u"DOS CON 50/100"_s);
     EXPECT_EQ(messages(), 2);
 }
 
 TEST_F(NumletrasWindowTest, EnglishNeverWarnsAndValencianIsToldOnceThenSpelledInSpanish)
 {
     open(CargarIngles);
-    EXPECT_EQ(type("x"), QStringLiteral("Non Numeric text"));
-    EXPECT_EQ(type("12"), QStringLiteral("   Twelve"));
+    EXPECT_EQ(type("x"), u"Non Numeric text"_s);
+    EXPECT_EQ(type("12"), u"   Twelve"_s);
     EXPECT_EQ(messages(), 0);
 
-    forms().unload(QStringLiteral("numletras"));
+    forms().unload(u"numletras"_s);
     open(CargarValenciano);
     ASSERT_EQ(messages(), 1);
     EXPECT_EQ(fakes().dialogs.messages.first().text, texto(slot::SoloEspanol));
-    EXPECT_EQ(type("12"), QStringLiteral("DOCE"));
+    EXPECT_EQ(type("12"), u"DOCE"_s);
 }
 
 } // namespace

@@ -21,6 +21,8 @@
 namespace zafro {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 using test::errorNumber;
 using test::fakes;
 
@@ -78,15 +80,15 @@ QString piLlano(qint32 grupos)
     if (s[grupos - 1] >= 5000)
         s[grupos - 2] += 1;
     const auto grupo = [&](qint32 i, const char *mascara) { return Format(s[i], mascara); };
-    QString texto = QStringLiteral(" PI = 3, \n ");
+    QString texto = u" PI = 3, \n "_s;
     const qint32 m = grupos / 3;
     for (qint32 i = 1; i < m; ++i) {
         texto +=
             grupo(3 * i - 1, "000\\ 0") + grupo(3 * i, "00\\ 00") + grupo(3 * i + 1, "0\\ 000\\ ");
         if (i % 5 == 0)
-            texto += QStringLiteral("\n ");
+            texto += u"\n "_s;
     }
-    return texto + grupo(3 * m - 1, "000\\ 0") + QStringLiteral("\n\n");
+    return texto + grupo(3 * m - 1, "000\\ 0") + u"\n\n"_s;
 }
 
 QString piRapido(double digitos)
@@ -103,9 +105,9 @@ TEST(Pi, PrintsWhatTheTermByTermMethodPrints)
         ASSERT_EQ(piRapido(digitos), piLlano(tamanoPi(digitos).grupos)) << digitos;
     for (const int digitos : {1000, 2345, 5000})
         EXPECT_EQ(piRapido(digitos), piLlano(tamanoPi(digitos).grupos)) << digitos;
-    EXPECT_EQ(piRapido(0), QStringLiteral(" PI = 3, \n 141 5\n\n"));
+    EXPECT_EQ(piRapido(0), u" PI = 3, \n 141 5\n\n"_s);
     // kept: the rounding lands on a group before the last one printed.
-    EXPECT_EQ(piRapido(12), QStringLiteral(" PI = 3, \n 141 592 653 590 793 2\n\n"));
+    EXPECT_EQ(piRapido(12), u" PI = 3, \n 141 592 653 590 793 2\n\n"_s);
 }
 
 TEST(Pi, TenThousandDecimalsMatchTheReferenceUpToTheRoundedLastGroup)
@@ -117,8 +119,8 @@ TEST(Pi, TenThousandDecimalsMatchTheReferenceUpToTheRoundedLastGroup)
     impreso = impreso.mid(impreso.indexOf(u'\n')).remove(u' ').remove(u'\n');
     ASSERT_EQ(impreso.size(), 10000);
     EXPECT_EQ(impreso.left(9996), referencia.left(9996));
-    EXPECT_EQ(referencia.mid(9996, 8), QStringLiteral("56785667"));
-    EXPECT_EQ(impreso.right(4), QStringLiteral("5679"));
+    EXPECT_EQ(referencia.mid(9996, 8), u"56785667"_s);
+    EXPECT_EQ(impreso.right(4), u"5679"_s);
 }
 
 TEST(Pi, SizesTimeAndTheThirtyTwoBitCeiling)
@@ -128,9 +130,9 @@ TEST(Pi, SizesTimeAndTheThirtyTwoBitCeiling)
         EXPECT_EQ(errorNumber([&] { tamanoPi(digitos); }), 6) << digitos;
 
     const ScopedDecimalMark comma(QLatin1Char(','));
-    EXPECT_EQ(tiempoPi(100.0f, 101.5f), QStringLiteral("1,5"));
-    EXPECT_EQ(tiempoPi(100.0f, 100.0f), QStringLiteral("0,00002"));
-    EXPECT_EQ(tiempoPi(86399.5f, 0.5f), QStringLiteral("0,00002")); // over midnight
+    EXPECT_EQ(tiempoPi(100.0f, 101.5f), u"1,5"_s);
+    EXPECT_EQ(tiempoPi(100.0f, 100.0f), u"0,00002"_s);
+    EXPECT_EQ(tiempoPi(86399.5f, 0.5f), u"0,00002"_s); // over midnight
 }
 
 // The window: a run on its worker, its stop, and a close in the middle of one.
@@ -140,7 +142,7 @@ protected:
     {
         guardarSkin(1);
         CargarEspanol();
-        return static_cast<PiWindow *>(forms().show(QStringLiteral("pi")));
+        return static_cast<PiWindow *>(forms().show(u"pi"_s));
     }
     template <typename T = QPushButton> T *get(const char *name) const
     {
@@ -161,18 +163,17 @@ protected:
 TEST_F(PiWindowTest, PrintsTheCountAskedStopsAndClosesMidRun)
 {
     const ScopedDecimalMark comma(QLatin1Char(','));
-    EXPECT_EQ(text1->text() + text2->toPlainText(), QStringLiteral("5000 PI = 3, \n"));
+    EXPECT_EQ(text1->text() + text2->toPlainText(), u"5000 PI = 3, \n"_s);
     fakes().clock.timerStep = 2.5f;
-    text1->setText(QStringLiteral("-200"));
+    text1->setText(u"-200"_s);
     QTest::mouseClick(command1, Qt::LeftButton);
-    EXPECT_EQ(text1->text(), QStringLiteral("200"));
+    EXPECT_EQ(text1->text(), u"200"_s);
     EXPECT_TRUE(corriendo());
     QTRY_VERIFY(text2->isVisible() && command1->isEnabled() && text1->isEnabled());
-    EXPECT_EQ(text2->toPlainText(),
-              piLlano(tamanoPi(200).grupos) +
-                  QStringLiteral("\n Se ha tardado 2,5 segundos en generar 200 dígitos"));
+    EXPECT_EQ(text2->toPlainText(), piLlano(tamanoPi(200).grupos) +
+                                        u"\n Se ha tardado 2,5 segundos en generar 200 dígitos"_s);
 
-    text1->setText(QStringLiteral("120000"));
+    text1->setText(u"120000"_s);
     QTest::mouseClick(command1, Qt::LeftButton);
     ASSERT_TRUE(corriendo());
     QTRY_VERIFY(get<QProgressBar>("ProgressBar1")->value() > 0);
@@ -181,15 +182,15 @@ TEST_F(PiWindowTest, PrintsTheCountAskedStopsAndClosesMidRun)
     EXPECT_TRUE(text2->isVisible() && command1->isEnabled() && text1->isEnabled());
     QTest::qWait(20); // nothing of the stopped run arrives later
     EXPECT_EQ(text2->toPlainText(), antes);
-    text1->setText(QStringLiteral("muchos"));
+    text1->setText(u"muchos"_s);
     EXPECT_EQ(errorNumber([&] { window->command1Click(); }), 13);
     EXPECT_EQ(errorNumber([&] { window->calculoFallado(RuntimeError::overflow()); }), 6);
 
-    text1->setText(QStringLiteral("120000"));
+    text1->setText(u"120000"_s);
     QTest::mouseClick(command1, Qt::LeftButton);
     ASSERT_TRUE(corriendo());
-    forms().unload(QStringLiteral("pi")); // closed mid-run
-    EXPECT_EQ(forms().find(QStringLiteral("pi")), nullptr);
+    forms().unload(u"pi"_s); // closed mid-run
+    EXPECT_EQ(forms().find(u"pi"_s), nullptr);
 }
 
 } // namespace

@@ -11,6 +11,8 @@
 namespace zafro {
 namespace {
 
+using namespace Qt::Literals::StringLiterals;
+
 using test::errorNumber;
 using test::withNul;
 
@@ -26,105 +28,52 @@ QString latin(const char *text)
 
 // --- Val ---
 
-TEST(Val, ReadsTheLongestLeadingNumber)
-{
-    const TextToNumber cases[] = {
-        {"", 0.0},       {"abc", 0.0},
-        {"12abc", 12.0}, {"24 and 57", 24.0},
-        {"1.5", 1.5},    {".5", 0.5},
-        {"-.5", -0.5},   {"+7", 7.0},
-        {"-", 0.0},      {".", 0.0},
-        {"--7", 0.0},    {"1.5.3", 1.5},
-        {"1..5", 1.0},   {"$5", 0.0},
-        {"1,5", 1.0}, // a comma is never a decimal mark for Val
-        {"1,234", 1.0},  {"007", 7.0},
-        {"3.", 3.0},     {"12345678901234567890", 12345678901234567890.0},
-    };
-    for (const auto &c : cases)
-        EXPECT_EQ(Val(latin(c.text)), c.expected) << '"' << c.text << '"';
-}
+// Leniently: the longest leading number; blanks, tabs and line feeds dropped anywhere; an
+// exponent after E or D only with digits; hexadecimal and octal in sixteen bits while they
+// fit, then 32 (of &H123456789 only the low 32 bits stay).
+const TextToNumber kVal[] = {
+    {"", 0.0},          {"abc", 0.0},       {"12abc", 12.0},       {"24 and 57", 24.0},
+    {"1.5", 1.5},       {".5", 0.5},        {"-.5", -0.5},         {"+7", 7.0},
+    {"-", 0.0},         {".", 0.0},         {"--7", 0.0},          {"1.5.3", 1.5},
+    {"1..5", 1.0},      {"$5", 0.0},        {"1,5", 1.0},          {"1,234", 1.0},
+    {"007", 7.0},       {"3.", 3.0},        {"  42", 42.0},        {"- 3", -3.0},
+    {"1 2 3", 123.0},   {"\t1\n2", 12.0},   {"1 . 5", 1.5},        {"1 e 3", 1000.0},
+    {"& H F F", 255.0}, {"1e3", 1000.0},    {"1E3", 1000.0},       {"1D3", 1000.0},
+    {"1d-2", 0.01},     {"2E-3", 0.002},    {"1.5E+20", 1.5e20},   {".5e1", 5.0},
+    {"1e", 1.0},        {"1e+", 1.0},       {"1e-x", 1.0},         {"1ex", 1.0},
+    {"1E+05abc", 1e5},  {"e5", 0.0},        {"1e-400", 0.0},       {"&HFF", 255},
+    {"&hff", 255},      {"&H7FFF", 32767},  {"&H8000", -32768},    {"&HFFFF", -1},
+    {"&H0000FFFF", -1}, {"&H10000", 65536}, {"&H80C0FF", 8438015}, {"&HFFFFFFFF", -1},
+    {"&HFG", 15},       {"&H", 0},          {"&O17", 15},          {"&o17", 15},
+    {"&O77777", 32767}, {"&O177777", -1},   {"&O200000", 65536},   {"&O8", 0},
+    {"&X12", 0},        {"&", 0},           {"-&HFF", 0},
+};
+const TextToNumber kValLong[] = {
+    {"12345678901234567890", 12345678901234567890.0},
+    {" 1615 198th Street N.E.", 1615198.0},
+    {"&H7FFFFFFF", 2147483647.0},
+    {"&H80000000", -2147483648.0},
+    {"&H123456789", 591751049.0},
+};
 
-TEST(Val, DropsBlanksTabsAndLineFeedsAnywhere)
-{
-    const TextToNumber cases[] = {
-        {" 1615 198th Street N.E.", 1615198.0},
-        {"  42", 42.0},
-        {"- 3", -3.0},
-        {"1 2 3", 123.0},
-        {"\t1\n2", 12.0},
-        {"1 . 5", 1.5},
-        {"1 e 3", 1000.0},
-        {"& H F F", 255.0},
-    };
-    for (const auto &c : cases)
-        EXPECT_EQ(Val(latin(c.text)), c.expected) << '"' << c.text << '"';
-}
-
-TEST(Val, ReadsAnExponentAfterEOrDOnlyWithDigits)
-{
-    const TextToNumber cases[] = {
-        {"1e3", 1000.0},     {"1E3", 1000.0},   {"1D3", 1000.0}, {"1d-2", 0.01},  {"2E-3", 0.002},
-        {"1.5E+20", 1.5e20}, {".5e1", 5.0},     {"1e", 1.0},     {"1e+", 1.0},    {"1e-x", 1.0},
-        {"1ex", 1.0},        {"1E+05abc", 1e5}, {"e5", 0.0},     {"1e-400", 0.0},
-    };
-    for (const auto &c : cases)
-        EXPECT_EQ(Val(latin(c.text)), c.expected) << '"' << c.text << '"';
-}
-
-TEST(Val, ClampsBeyondTheDoubleRangeInsteadOfRaising)
-{
-    EXPECT_EQ(Val(QStringLiteral("1e400")), DBL_MAX);
-    EXPECT_EQ(Val(QStringLiteral("-1e400")), -DBL_MAX);
-    EXPECT_EQ(Val(QString(400, u'9')), DBL_MAX);
-}
-
-TEST(Val, ReadsHexadecimalAndOctalAsSixteenBitsWhileTheyFit)
-{
-    const TextToNumber cases[] = {
-        {"&HFF", 255.0},
-        {"&hff", 255.0},
-        {"&H7FFF", 32767.0},
-        {"&H8000", -32768.0},
-        {"&HFFFF", -1.0},
-        {"&H0000FFFF", -1.0},
-        {"&H10000", 65536.0},
-        {"&H80C0FF", 8438015.0},
-        {"&H7FFFFFFF", 2147483647.0},
-        {"&H80000000", -2147483648.0},
-        {"&HFFFFFFFF", -1.0},
-        {"&H123456789", 591751049.0}, // 0x23456789: only the low 32 bits stay
-        {"&HFG", 15.0},
-        {"&H", 0.0},
-        {"&O17", 15.0},
-        {"&o17", 15.0},
-        {"&O77777", 32767.0},
-        {"&O177777", -1.0},
-        {"&O200000", 65536.0},
-        {"&O8", 0.0},
-        {"&X12", 0.0},
-        {"&", 0.0},
-        {"-&HFF", 0.0},
-    };
-    for (const auto &c : cases)
-        EXPECT_EQ(Val(latin(c.text)), c.expected) << '"' << c.text << '"';
-}
-
-TEST(Val, StopsAtANul)
-{
-    EXPECT_EQ(Val(withNul("5")), 5.0);
-    EXPECT_EQ(Val(withNul("12.5", "7")), 12.5);
-    EXPECT_EQ(Val(withNul("&HFF", "F")), 255.0);
-    EXPECT_EQ(Val(withNul("", "5")), 0.0);
-}
-
-TEST(Val, IgnoresTheRegion)
+TEST(Val, ReadsLenientlyInEitherRegionClampsAndStopsAtANul)
 {
     for (const QChar mark : {QChar(u'.'), QChar(u',')}) {
         ScopedDecimalMark region(mark);
-        EXPECT_EQ(Val(QStringLiteral("1,5")), 1.0) << "region " << mark.toLatin1();
-        EXPECT_EQ(Val(QStringLiteral("1.5")), 1.5) << "region " << mark.toLatin1();
-        EXPECT_EQ(Val(QStringLiteral("1.234,5")), 1.234) << "region " << mark.toLatin1();
+        const auto check = [&](const auto &table) {
+            for (const auto &c : table)
+                EXPECT_EQ(Val(latin(c.text)), c.expected)
+                    << '"' << c.text << "\" " << mark.toLatin1();
+        };
+        check(kVal);
+        check(kValLong);
     }
+    EXPECT_EQ(Val(u"1e400"_s), DBL_MAX);
+    EXPECT_EQ(Val(u"-1e400"_s), -DBL_MAX);
+    EXPECT_EQ(Val(QString(400, u'9')), DBL_MAX);
+    EXPECT_EQ(Val(withNul("12.5", "7")), 12.5);
+    EXPECT_EQ(Val(withNul("&HFF", "F")), 255.0);
+    EXPECT_EQ(Val(withNul("", "5")), 0.0);
 }
 
 // --- Strict conversions ---
@@ -169,46 +118,34 @@ TEST(StrictConversion, TextThatIsNoNumberIsATypeMismatch)
     }
 }
 
-TEST(StrictConversion, ReadsInAPointRegion)
+TEST(StrictConversion, TheRegionsMarksDecideDecimalsAndGrouping)
 {
-    ScopedDecimalMark region(u'.');
-    const TextToNumber cases[] = {
-        {"1.5", 1.5},
-        {".5", 0.5},
-        {"5.", 5.0},
-        {"-0.25", -0.25},
-        {"1,234.5", 1234.5},
-        {"1,5", 15.0},
-        {"1,234,567", 1234567.0},
-        {"1.5E+2", 150.0},
+    // clang-format off
+    const struct {
+        char mark;
+        const char *text;
+        double expected; // when no error
+        int error;
+    } cases[] = {
+        {'.', "1.5", 1.5, 0}, {'.', ".5", 0.5, 0}, {'.', "5.", 5.0, 0}, {'.', "-0.25", -0.25, 0},
+        {'.', "1,234.5", 1234.5, 0}, {'.', "1,5", 15.0, 0}, {'.', "1,234,567", 1234567.0, 0},
+        {'.', "1.5E+2", 150.0, 0}, {'.', ",5", 0, 13}, {'.', "1.2,3", 0, 13}, {'.', "1.5.3", 0, 13},
+        {',', "1,5", 1.5, 0}, {',', ",5", 0.5, 0}, {',', "5,", 5.0, 0}, {',', "-0,25", -0.25, 0},
+        {',', "1.234,5", 1234.5, 0}, {',', "1.5", 15.0, 0}, {',', "1.234.567", 1234567.0, 0},
+        {',', "1,5E+2", 150.0, 0}, {',', "(1,5)", -1.5, 0}, {',', ".5", 0, 13},
+        {',', "1,2.3", 0, 13}, {',', "1,5,3", 0, 13},
     };
-    for (const auto &c : cases)
-        EXPECT_EQ(CDbl(latin(c.text)), c.expected) << '"' << c.text << '"';
-    EXPECT_EQ(errorNumber([] { CDbl(QStringLiteral(",5")); }), 13);
-    EXPECT_EQ(errorNumber([] { CDbl(QStringLiteral("1.2,3")); }), 13);
-    EXPECT_EQ(errorNumber([] { CDbl(QStringLiteral("1.5.3")); }), 13);
-}
-
-TEST(StrictConversion, ReadsInACommaRegion)
-{
-    ScopedDecimalMark region(u',');
-    const TextToNumber cases[] = {
-        {"1,5", 1.5},
-        {",5", 0.5},
-        {"5,", 5.0},
-        {"-0,25", -0.25},
-        {"1.234,5", 1234.5},
-        {"1.5", 15.0},
-        {"1.234.567", 1234567.0},
-        {"1,5E+2", 150.0},
-        {"(1,5)", -1.5},
-    };
-    for (const auto &c : cases)
-        EXPECT_EQ(CDbl(latin(c.text)), c.expected) << '"' << c.text << '"';
-    EXPECT_EQ(errorNumber([] { CDbl(QStringLiteral(".5")); }), 13);
-    EXPECT_EQ(errorNumber([] { CDbl(QStringLiteral("1,2.3")); }), 13);
-    EXPECT_EQ(errorNumber([] { CDbl(QStringLiteral("1,5,3")); }), 13);
-    EXPECT_TRUE(IsNumeric(QStringLiteral("1,5")));
+    // clang-format on
+    for (const auto &c : cases) {
+        ScopedDecimalMark region(QChar::fromLatin1(c.mark));
+        const QString t = latin(c.text);
+        if (c.error == 0)
+            EXPECT_EQ(CDbl(t), c.expected) << '"' << c.text << "\" in " << c.mark;
+        else
+            EXPECT_EQ(errorNumber([&] { CDbl(t); }), c.error)
+                << '"' << c.text << "\" in " << c.mark;
+        EXPECT_EQ(IsNumeric(t), c.error == 0) << '"' << c.text << "\" in " << c.mark;
+    }
 }
 
 TEST(StrictConversion, IgnoresEverythingAfterANul)
@@ -228,78 +165,58 @@ TEST(StrictConversion, OutOfTheDoubleOrRadixRangeIsAnOverflow)
         EXPECT_EQ(errorNumber([&] { CDbl(t); }), 6) << '"' << text << '"';
         EXPECT_FALSE(IsNumeric(t)) << '"' << text << '"';
     }
-    EXPECT_EQ(CDbl(QStringLiteral("1e-400")), 0.0);
+    EXPECT_EQ(CDbl(u"1e-400"_s), 0.0);
 }
 
-struct TextToInteger {
-    const char *text;
-    qint32 expected; // meaningless when error is set
-    int error;
-};
-
-TEST(StrictConversion, CLngRoundsHalfToEvenAndChecksTheRange)
+TEST(StrictConversion, CLngAndCIntRoundHalfToEvenAndCheckTheirRange)
 {
     ScopedDecimalMark region(u'.');
-    const TextToInteger cases[] = {
-        {"2147483647", 2147483647, 0},
-        {"-2147483648", -2147483647 - 1, 0},
-        {"2147483648", 0, 6},
-        {"-2147483649", 0, 6},
-        {"2147483647.4", 2147483647, 0},
-        {"2147483647.5", 0, 6},
-        {"-2147483648.5", -2147483647 - 1, 0},
-        {"2.5", 2, 0},
-        {"3.5", 4, 0},
-        {"-0.5", 0, 0},
-        {"-1.5", -2, 0},
-        {"0.5000001", 1, 0},
-        {"14846691", 14846691, 0},
-        {"&H80C0FF", 8438015, 0},
-        {"&HFFFF", -1, 0},
-        {"&HFFFFFFFF", -1, 0},
-        {"1e10", 0, 6},
+    // clang-format off
+    const struct {
+        bool lng; // CLng, else CInt
+        const char *text;
+        qint32 expected; // meaningless when error is set
+        int error;
+    } cases[] = {
+        {true, "2147483647", 2147483647, 0}, {true, "-2147483648", -2147483647 - 1, 0},
+        {true, "2147483648", 0, 6}, {true, "-2147483649", 0, 6},
+        {true, "2147483647.4", 2147483647, 0}, {true, "2147483647.5", 0, 6},
+        {true, "-2147483648.5", -2147483647 - 1, 0}, {true, "2.5", 2, 0}, {true, "3.5", 4, 0},
+        {true, "-0.5", 0, 0}, {true, "-1.5", -2, 0}, {true, "0.5000001", 1, 0},
+        {true, "&H80C0FF", 8438015, 0}, {true, "&HFFFF", -1, 0}, {true, "&HFFFFFFFF", -1, 0},
+        {true, "1e10", 0, 6}, {false, "32767", 32767, 0}, {false, "-32768", -32768, 0},
+        {false, "32768", 0, 6}, {false, "-32769", 0, 6}, {false, "32767.5", 0, 6},
+        {false, "32767.4", 32767, 0}, {false, "-32768.5", -32768, 0}, {false, "2.5", 2, 0},
+        {false, "3.5", 4, 0}, {false, "-2.5", -2, 0}, {false, "&HFFFF", -1, 0},
+        {false, "&H8000", -32768, 0}, {false, "&H10000", 0, 6}, {false, "&HFFFFFFFF", -1, 0},
+        {false, "40000", 0, 6},
     };
+    // clang-format on
     for (const auto &c : cases) {
         const QString t = latin(c.text);
+        const auto convert = [&] { return c.lng ? CLng(t) : qint32(CInt(t)); };
         if (c.error == 0)
-            EXPECT_EQ(CLng(t), c.expected) << '"' << c.text << '"';
+            EXPECT_EQ(convert(), c.expected) << (c.lng ? "CLng " : "CInt ") << c.text;
         else
-            EXPECT_EQ(errorNumber([&] { CLng(t); }), c.error) << '"' << c.text << '"';
-    }
-}
-
-TEST(StrictConversion, CIntRoundsHalfToEvenAndChecksTheRange)
-{
-    ScopedDecimalMark region(u'.');
-    const TextToInteger cases[] = {
-        {"32767", 32767, 0}, {"-32768", -32768, 0}, {"32768", 0, 6},         {"-32769", 0, 6},
-        {"32767.5", 0, 6},   {"32767.4", 32767, 0}, {"-32768.5", -32768, 0}, {"2.5", 2, 0},
-        {"3.5", 4, 0},       {"-2.5", -2, 0},       {"&HFFFF", -1, 0},       {"&H8000", -32768, 0},
-        {"&H10000", 0, 6},   {"&HFFFFFFFF", -1, 0}, {"40000", 0, 6},
-    };
-    for (const auto &c : cases) {
-        const QString t = latin(c.text);
-        if (c.error == 0)
-            EXPECT_EQ(CInt(t), c.expected) << '"' << c.text << '"';
-        else
-            EXPECT_EQ(errorNumber([&] { CInt(t); }), c.error) << '"' << c.text << '"';
+            EXPECT_EQ(errorNumber(convert), c.error) << (c.lng ? "CLng " : "CInt ") << c.text;
     }
 }
 
 TEST(StrictConversion, CSngRoundsToSingleAndChecksItsRange)
 {
     ScopedDecimalMark region(u'.');
-    EXPECT_EQ(CSng(QStringLiteral("0.1")), 0.1f);
-    EXPECT_EQ(CSng(QStringLiteral("3.4e38")), 3.4e38f);
-    EXPECT_EQ(CSng(QStringLiteral("1e-50")), 0.0f);
-    EXPECT_EQ(errorNumber([] { CSng(QStringLiteral("3.5e38")); }), 6);
-    EXPECT_EQ(errorNumber([] { CSng(QStringLiteral("-3.5e38")); }), 6);
+    EXPECT_EQ(CSng(u"0.1"_s), 0.1f);
+    EXPECT_EQ(CSng(u"3.4e38"_s), 3.4e38f);
+    EXPECT_EQ(CSng(u"1e-50"_s), 0.0f);
+    EXPECT_EQ(errorNumber([] { CSng(u"3.5e38"_s); }), 6);
+    EXPECT_EQ(errorNumber([] { CSng(u"-3.5e38"_s); }), 6);
 }
 
 // --- Numeric conversions ---
 
 TEST(NumericConversion, CLngAndCIntRoundHalfToEvenAtTheBoundaries)
 {
+    // clang-format off
     const struct {
         double x;
         qint32 lng;
@@ -307,25 +224,16 @@ TEST(NumericConversion, CLngAndCIntRoundHalfToEvenAtTheBoundaries)
         qint16 integer;
         int intError;
     } cases[] = {
-        {0.5, 0, 0, 0, 0},
-        {1.5, 2, 0, 2, 0},
-        {2.5, 2, 0, 2, 0},
-        {3.5, 4, 0, 4, 0},
-        {-0.5, 0, 0, 0, 0},
-        {-2.5, -2, 0, -2, 0},
-        {-2.6, -3, 0, -3, 0},
-        {32767.5, 32768, 0, 0, 6},
-        {32766.5, 32766, 0, 32766, 0},
-        {-32768.5, -32768, 0, -32768, 0},
-        {-32768.6, -32769, 0, 0, 6},
-        {2147483647.4, 2147483647, 0, 0, 6},
-        {2147483647.5, 0, 6, 0, 6},
-        {2147483646.5, 2147483646, 0, 0, 6},
-        {-2147483648.5, -2147483647 - 1, 0, 0, 6},
-        {-2147483648.6, 0, 6, 0, 6},
+        {0.5, 0, 0, 0, 0}, {1.5, 2, 0, 2, 0}, {2.5, 2, 0, 2, 0}, {3.5, 4, 0, 4, 0},
+        {-0.5, 0, 0, 0, 0}, {-2.5, -2, 0, -2, 0}, {-2.6, -3, 0, -3, 0}, {32767.5, 32768, 0, 0, 6},
+        {32766.5, 32766, 0, 32766, 0}, {-32768.5, -32768, 0, -32768, 0},
+        {-32768.6, -32769, 0, 0, 6}, {2147483647.4, 2147483647, 0, 0, 6},
+        {2147483647.5, 0, 6, 0, 6}, {2147483646.5, 2147483646, 0, 0, 6},
+        {-2147483648.5, -2147483647 - 1, 0, 0, 6}, {-2147483648.6, 0, 6, 0, 6},
         {std::numeric_limits<double>::infinity(), 0, 6, 0, 6},
         {std::numeric_limits<double>::quiet_NaN(), 0, 6, 0, 6},
     };
+    // clang-format on
     for (const auto &c : cases) {
         if (c.lngError == 0)
             EXPECT_EQ(CLng(c.x), c.lng) << c.x;
@@ -367,7 +275,7 @@ TEST(Region, ForcedMarksComeInPairsAndScopesNest)
             EXPECT_EQ(thousandsMark(), QChar(u','));
         }
         EXPECT_EQ(decimalMark(), QChar(u',')) << "the outer region comes back";
-        EXPECT_EQ(CDbl(QStringLiteral("2,5")), 2.5);
+        EXPECT_EQ(CDbl(u"2,5"_s), 2.5);
     }
     EXPECT_EQ(decimalMark(), systemMark);
     EXPECT_NE(thousandsMark(), decimalMark());

@@ -13,24 +13,12 @@ using test::errorNumber;
 
 TEST(Round, HalvesGoToTheEvenNeighbour)
 {
+    const double justBelow = 0.5 - 0x1p-54, odd = 0x1p52 + 1; // odd: no fraction left
     const struct {
         double x;
         double expected;
-    } cases[] = {
-        {0.5, 0.0},
-        {1.5, 2.0},
-        {2.5, 2.0},
-        {3.5, 4.0},
-        {-0.5, 0.0},
-        {-1.5, -2.0},
-        {-2.5, -2.0},
-        {-3.5, -4.0},
-        {2.4, 2.0},
-        {2.6, 3.0},
-        {-2.6, -3.0},
-        {0.49999999999999994, 0.0},
-        {4503599627370497.0, 4503599627370497.0},
-    };
+    } cases[] = {{0.5, 0.0}, {1.5, 2.0}, {2.5, 2.0},   {-0.5, 0.0},      {-1.5, -2.0}, {-2.5, -2.0},
+                 {2.4, 2.0}, {2.6, 3.0}, {-2.6, -3.0}, {justBelow, 0.0}, {odd, odd}};
     for (const auto &c : cases)
         EXPECT_EQ(Round(c.x), c.expected) << c.x;
 }
@@ -49,23 +37,14 @@ TEST(Round, ScalesInBinaryBeforeRoundingToDecimals)
         {1.005, 2, 1.0},        // 1.005 * 100 is 100.49999999999999
         {0.125, 2, 0.12},       // 12.5 exactly: to the even 12
         {0.375, 2, 0.38},       // 37.5 exactly: to the even 38
-        {-0.125, 2, -0.12},     {-2.675, 2, -2.68}, {1.23456789, 4, 1.2346}, {3.14159, 0, 3.0},
-        {7.0, 3, 7.0},          {1e20, 2, 1e20}, // nothing left to round at that scale
+        {-0.125, 2, -0.12},     {-2.675, 2, -2.68}, {1.23456789, 4, 1.2346},
+        {3.14159, 0, 3.0},      {1e20, 2, 1e20}, // nothing left to round at that scale
         {1e300, 10, 1e300},                      // the scaled value would not be finite
         {0.1, 400, 0.1},
     };
     for (const auto &c : cases)
         EXPECT_EQ(Round(c.x, c.decimals), c.expected) << c.x << " to " << c.decimals;
-}
-
-TEST(Round, NegativeDecimalsAreAnInvalidCall)
-{
-    EXPECT_EQ(errorNumber([] { Round(12.5, -1); }), 5);
-    EXPECT_EQ(errorNumber([] { Round(0, -3); }), 5);
-}
-
-TEST(Round, LetsNonFiniteValuesThrough)
-{
+    EXPECT_EQ(errorNumber([] { Round(12.5, -1); }), 5) << "negative decimals";
     const double inf = std::numeric_limits<double>::infinity();
     EXPECT_EQ(Round(inf, 2), inf);
     EXPECT_TRUE(std::isnan(Round(std::numeric_limits<double>::quiet_NaN())));
@@ -77,11 +56,8 @@ TEST(IntAndFix, DifferOnlyForNegativeFractions)
         double x;
         double intValue;
         double fixValue;
-    } cases[] = {
-        {1.5, 1.0, 1.0},    {1.99, 1.0, 1.0},      {-1.5, -2.0, -1.0}, {-1.01, -2.0, -1.0},
-        {-0.5, -1.0, 0.0},  {-2.0, -2.0, -2.0},    {0.0, 0.0, 0.0},    {7.0, 7.0, 7.0},
-        {1e20, 1e20, 1e20}, {-1e20, -1e20, -1e20},
-    };
+    } cases[] = {{1.5, 1.0, 1.0}, {-1.5, -2.0, -1.0}, {-0.5, -1.0, 0.0},    {-2.0, -2.0, -2.0},
+                 {0.0, 0.0, 0.0}, {1e20, 1e20, 1e20}, {-1e20, -1e20, -1e20}};
     for (const auto &c : cases) {
         EXPECT_EQ(Int(c.x), c.intValue) << c.x;
         EXPECT_EQ(Fix(c.x), c.fixValue) << c.x;
