@@ -22,7 +22,8 @@ endforeach()
 # that two builds of one version give the same files.
 find_program(GZIP_PROGRAM gzip REQUIRED)
 set(_man ${CMAKE_BINARY_DIR}/zafrosuite.1.gz)
-set(_changelog ${CMAKE_BINARY_DIR}/changelog.Debian.gz)
+# A native package (no Debian revision) names it changelog.gz.
+set(_changelog ${CMAKE_BINARY_DIR}/changelog.gz)
 add_custom_command(OUTPUT ${_man}
   COMMAND ${GZIP_PROGRAM} -9 -n -c ${_dist}/zafrosuite.1 > ${_man}
   DEPENDS ${_dist}/zafrosuite.1 VERBATIM)

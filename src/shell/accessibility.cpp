@@ -136,7 +136,7 @@ void nameControls(QWidget *window, const QList<QWidget *> &controls)
     }
 }
 
-void orderTabs(QList<QWidget *> focusable, const QWidget *window)
+void orderTabs(QList<QWidget *> focusable, QWidget *window)
 {
     std::stable_sort(focusable.begin(), focusable.end(), [window](QWidget *a, QWidget *b) {
         return inWindow(a, window).center().y() < inWindow(b, window).center().y();
@@ -155,6 +155,15 @@ void orderTabs(QList<QWidget *> focusable, const QWidget *window)
         });
         ordered += row;
         start = end;
+    }
+    // The chain is a ring through the window: the first control follows the window,
+    // so that Tab from a window with nothing focused starts at its top left.
+    // Qt links only focusable widgets, so the window takes Tab focus for a moment.
+    if (!ordered.isEmpty()) {
+        const Qt::FocusPolicy policy = window->focusPolicy();
+        window->setFocusPolicy(Qt::TabFocus);
+        QWidget::setTabOrder(window, ordered.first());
+        window->setFocusPolicy(policy);
     }
     for (qsizetype i = 1; i < ordered.size(); ++i)
         QWidget::setTabOrder(ordered[i - 1], ordered[i]);
@@ -180,6 +189,8 @@ void makeAccessible(QWidget *window)
     QList<QWidget *> controls;
     QList<QWidget *> focusable;
     for (QWidget *w : window->findChildren<QWidget *>()) {
+        if (isHiddenSpot(w))
+            w->setFocusPolicy(Qt::NoFocus); // Tab must not find them either
         if (w->window() != window || isHiddenSpot(w) || isPartOfAnother(w, window))
             continue;
         if (qobject_cast<QAbstractButton *>(w) || isBox(w))
