@@ -48,7 +48,11 @@ const Shot kShots[] = {
     {"graphs",
      "coordenadas1",
      "coordenadas2",
-     {{Step::Choose, "Combo1", "Elipse"}, {Step::Click, "Command1", ""}}},
+     {{Step::Choose, "Combo1", "Elipse"},
+      {Step::Type, "d", "1"},
+      {Step::Type, "e", "4"},
+      {Step::Type, "c", "2"},
+      {Step::Click, "Command1", ""}}},
     {"nif", "nif", "nif", {{Step::Type, "Text10", "87654321"}}},
     {"prestamo",
      "prestamo",
@@ -144,6 +148,7 @@ int main(int argc, char **argv)
             continue;
         }
         std::printf("%s\n", qPrintable(file));
+        std::fflush(stdout);
         if (grabbed != zafro::forms().find(QStringLiteral("index")))
             zafro::forms().unloadAll(); // the next tool on a fresh launcher
         if (!zafro::forms().find(QStringLiteral("index")))
