@@ -58,7 +58,9 @@ MatimportacionWindow::MatimportacionWindow()
 
 void MatimportacionWindow::formLoad()
 {
-    text1_->setText(QDir::cleanPath(services().desktop->programFolder() + u'/' + kArchivoDatos));
+    // The data file where this copy of the suite keeps it: beside the program in a
+    // build tree, under share/ once installed.
+    text1_->setText(QDir::cleanPath(services().desktop->dataFile(kArchivoDatos)));
     command1_->setText(texto(slot::Importar));
     label1_->setText(texto(slot::ImportarInstrucciones));
 }

@@ -16,6 +16,9 @@ public:
     virtual void deleteFile(const QString &path) = 0;       // DeleteFileA
     virtual QString programFolder() const = 0;
     virtual QString programFileName() const = 0;
+    // Where a read-only data file of the suite is: beside the program unless the
+    // platform keeps such files elsewhere.
+    virtual QString dataFile(const QString &name) const { return programFolder() + u'/' + name; }
     virtual QSize screenSizeTwips() const = 0;
     virtual QPoint cursorPos() const = 0;            // GetCursorPos
     virtual void cdDoor(const QString &command) = 0; // mciSendStringA

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -16,6 +17,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QThread>
 #include <QUrl>
 
@@ -145,6 +147,23 @@ QString QtDesktop::programFolder() const
 QString QtDesktop::programFileName() const
 {
     return QFileInfo(QCoreApplication::applicationFilePath()).completeBaseName();
+}
+
+QString QtDesktop::dataFile(const QString &name) const
+{
+    // The build tree keeps the data beside the program; an installed copy keeps it
+    // under share/, found relative to the program so that any prefix works, and then
+    // along the XDG data folders.
+    const QString beside = programFolder() + u'/' + name;
+    if (QFileInfo::exists(beside))
+        return beside;
+    const QString installed =
+        QDir::cleanPath(programFolder() + u'/' + QStringLiteral(ZAFRO_DATA_FROM_BIN) + u'/' + name);
+    if (QFileInfo::exists(installed))
+        return installed;
+    const QString elsewhere = QStandardPaths::locate(QStandardPaths::GenericDataLocation,
+                                                     QStringLiteral("zafro/") + name);
+    return elsewhere.isEmpty() ? installed : elsewhere;
 }
 
 QSize QtDesktop::screenSizeTwips() const

@@ -22,6 +22,7 @@ public:
     void deleteFile(const QString &path) override;
     QString programFolder() const override;
     QString programFileName() const override;
+    QString dataFile(const QString &name) const override;
     QSize screenSizeTwips() const override;
     QPoint cursorPos() const override;
     void cdDoor(const QString &command) override;
